@@ -1,0 +1,21 @@
+#include "kbeC_module.h"
+
+#include "kbeC_ArchEntry.h"
+#include "typ_ArchCompTable.h"
+#include "uti_Guard.h"
+
+namespace {
+
+uti_Guard kbeGuard;
+
+}  // namespace
+
+void kbeC_initialize(int& count) {
+    if (!kbeGuard.Raise(count)) return;
+    typ_ArchCompTable::InsertEntry(kbeC_component, kbeC_ArchEntry());
+    // Registration of the module: extension, class metadata, old class versions.
+}
+
+void kbeC_finalize(int& count) { kbeGuard.Lower(count); }
+
+void kbeC_formalize() {}

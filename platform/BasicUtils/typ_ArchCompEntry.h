@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+
+#include "typ_Entry.h"
+
+// What a component hands to the type table. Does not own the rows: they are constant data of the
+// component and outlive the process's last look-up.
+class typ_ArchCompEntry {
+public:
+    constexpr typ_ArchCompEntry() = default;
+    // `count` includes the placeholder in row 0.
+    constexpr typ_ArchCompEntry(typ_Entry const* rows, unsigned count)
+        : rows_(rows), count_(rows ? count : 0) {}
+
+    constexpr typ_Entry const* Rows() const { return rows_; }
+    constexpr unsigned Count() const { return count_; }
+    // Null beyond the table.
+    constexpr typ_Entry const* Row(unsigned row) const {
+        return row < count_ ? rows_ + row : nullptr;
+    }
+
+private:
+    typ_Entry const* rows_ = nullptr;
+    unsigned count_ = 0;
+};

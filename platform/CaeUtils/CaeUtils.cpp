@@ -1,0 +1,43 @@
+#include "CaeUtils.h"
+
+#include "cls_TypeIds.h"
+#include "mdl_TypeIds.h"
+#include "typ_ArchCompTable.h"
+#include "uti_Guard.h"
+
+namespace {
+
+uti_Guard mdlGuard;
+
+// The numbers of rows 1 and 13 stand in the tables of the components above; those between are free.
+// clang-format off
+constexpr typ_Entry mdlRows[] = {
+    /*  0 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  1 */ {typ_classKind, mdl_ExtensionType, "mdl_Repository"},
+    /*  2 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  3 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  4 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  5 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  6 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  7 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  8 */ {typ_placeholderKind, typ_root, nullptr},
+    /*  9 */ {typ_placeholderKind, typ_root, nullptr},
+    /* 10 */ {typ_placeholderKind, typ_root, nullptr},
+    /* 11 */ {typ_placeholderKind, typ_root, nullptr},
+    /* 12 */ {typ_placeholderKind, typ_root, nullptr},
+    /* 13 */ {typ_classKind, typ_root, "mdl_Extension"},
+    /* 14 */ {typ_classKind, typ_root, "mdl_PropertyTable"},
+    /* 15 */ {typ_classKind, nex_CommandExceptionType, "omu_ValueErrorException"},
+    /* 16 */ {typ_classKind, nex_CommandExceptionType, "omu_AccessErrorException"},
+};
+// clang-format on
+
+}  // namespace
+
+void UTI_CaeUtils_initialize(int& count) {
+    if (!mdlGuard.Raise(count)) return;
+    typ_ArchCompTable::InsertEntry(mdl_component,
+                                   typ_ArchCompEntry(mdlRows, sizeof mdlRows / sizeof mdlRows[0]));
+}
+
+void UTI_CaeUtils_finalize(int& count) { mdlGuard.Lower(count); }
