@@ -16,21 +16,21 @@
 #include "thr_ThreadSingleton.h"
 
 #include "BasicUtils.h"
-#include "cls_TypeIds.h"
 #include "cls_Uid.h"
 #include "nex_Cast.h"
 #include "nex_CommandException.h"
 #include "nex_Exception.h"
 #include "nex_TextException.h"
 #include "nex_TextTable.h"
+#include "nex_TypeIds.h"
 #include "typ_ArchCompEntry.h"
 #include "typ_ArchCompTable.h"
 #include "typ_Entry.h"
 #include "uti_Guard.h"
 
 #include "CaeUtils.h"
-#include "mdl_TypeIds.h"
 #include "omu_AccessErrorException.h"
+#include "omu_TypeIds.h"
 #include "omu_ValueErrorException.h"
 
 #include "RfmInterface.h"
@@ -66,8 +66,8 @@
 #include "klcC_assert.h"
 #include "klcC_module.h"
 
-// Bring the whole library up and take it down, on one thread. Calls nest; between the outermost
-// pair every class is known to the type table and the registrars, and nothing runs by itself. The
-// integer counts the units of the process that are up.
+/// Bring the whole library up and take it down, on one thread. Calls nest; between the outermost
+/// pair every class is known to the type table and the registrars, and nothing runs by itself. The
+/// integer counts the units of the process that are up.
 void DDB_NonGeometricAttributes_initialize(int& count);
 void DDB_NonGeometricAttributes_finalize(int& count);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The libraries below and the modules, in the order in which they come up; they go down in the
-// reverse of it. One list, so that the two orders cannot drift apart.
+/// The libraries below and the modules, in the order in which they come up; they go down in the
+/// reverse of it. One list, so that the two orders cannot drift apart.
 struct DDB_Unit {
     void (*initialize)(int& count);
     void (*finalize)(int& count);

@@ -1,6 +1,6 @@
 #pragma once
 
-// Bring this library up and take it down. Calls nest; only the outermost pair acts, and counts
-// itself in the caller's integer. One thread, by contract with the host.
+/// Bring this library up and take it down. Calls nest; only the outermost pair acts, and counts
+/// itself in the caller's integer. One thread, by contract with the host.
 void UTI_BasicUtils_initialize(int& count);
 void UTI_BasicUtils_finalize(int& count);

@@ -53,14 +53,14 @@ int uidDigit(char c) {
 void cls_Uid::Refill() {
     static std::uint64_t const prefix = uidDrawPrefix();
     static std::atomic<std::uint64_t> counter{1};
-    block_.prefix = prefix;
-    block_.next = counter.fetch_add(uidBlockSize, std::memory_order_relaxed);
-    block_.end = block_.next + uidBlockSize;
+    m_block.prefix = prefix;
+    m_block.next = counter.fetch_add(uidBlockSize, std::memory_order_relaxed);
+    m_block.end = m_block.next + uidBlockSize;
 }
 
 void cls_Uid::ToBytes(unsigned char (&bytes)[byteCount]) const {
-    uidPutWord(bytes, low_);
-    uidPutWord(bytes + 8, high_);
+    uidPutWord(bytes, m_low);
+    uidPutWord(bytes + 8, m_high);
 }
 
 cls_Uid cls_Uid::FromBytes(unsigned char const (&bytes)[byteCount]) {
@@ -71,8 +71,8 @@ void cls_Uid::ToText(char (&text)[2 * byteCount + 1]) const {
     char const* const digits = "0123456789abcdef";
     for (int i = 0; i < byteCount; ++i) {
         int const shift = 60 - 4 * i;
-        text[i] = digits[(high_ >> shift) & 15];
-        text[byteCount + i] = digits[(low_ >> shift) & 15];
+        text[i] = digits[(m_high >> shift) & 15];
+        text[byteCount + i] = digits[(m_low >> shift) & 15];
     }
     text[2 * byteCount] = '\0';
 }
@@ -83,7 +83,7 @@ bool cls_Uid::FromText(char const* text, cls_Uid& uid) {
     for (int i = 0; i < 2 * byteCount; ++i) {
         int const digit = uidDigit(text[i]);
         if (digit < 0) return false;
-        std::uint64_t& word = i < byteCount ? read.high_ : read.low_;
+        std::uint64_t& word = i < byteCount ? read.m_high : read.m_low;
         word = (word << 4) | static_cast<std::uint64_t>(digit);
     }
     if (text[2 * byteCount] != '\0') return false;

@@ -7,7 +7,7 @@
 namespace {
 
 // The text must hold the number of a type that no table names.
-char const* nexTypeText(std::uint32_t typeId, char (&number)[11]) {
+char const* nexTypeText(unsigned typeId, char (&number)[11]) {
     char const* const name = typ_ArchCompTable::GetName(typeId);
     if (*name != '\0') return name;
     char const* const digits = "0123456789abcdef";
@@ -20,8 +20,7 @@ char const* nexTypeText(std::uint32_t typeId, char (&number)[11]) {
 
 }  // namespace
 
-bool nex_canDynamicCastRef(std::uint32_t targetType, std::uint32_t dynamicType, char const* file,
-                           int line) {
+bool nex_canDynamicCastRef(unsigned targetType, unsigned dynamicType, char const* file, int line) {
     if (typ_ArchCompTable::IsParent(dynamicType, targetType)) return true;
     char dynamicNumber[11];
     char targetNumber[11];

@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-// The check before a reference downcast between persistent classes: true if an object whose
-// DynTypeId() is `dynamicType` is a `targetType`. Raises a nex_TextException at file and line
-// otherwise, as callers cast whatever the answer is.
-bool nex_canDynamicCastRef(std::uint32_t targetType, std::uint32_t dynamicType, char const* file,
-                           int line);
+/// The check before a reference downcast between persistent classes: true if an object whose
+/// DynTypeId() is `dynamicType` is a `targetType`. Raises a nex_TextException at file and line
+/// otherwise, as callers cast whatever the answer is.
+bool nex_canDynamicCastRef(unsigned targetType, unsigned dynamicType, char const* file, int line);

@@ -1,10 +1,11 @@
 #include "nex_Exception.h"
 
+#include <cstdlib>
 #include <memory>
 #include <typeinfo>
 
 #include "atr_translate.h"
-#include "cls_TypeIds.h"
+#include "nex_TypeIds.h"
 #include "typ_ArchCompTable.h"
 
 namespace {
@@ -21,26 +22,27 @@ char const* nexClassName(nex_Exception const& exception) {
 
 }  // namespace
 
-nex_Exception::nex_Exception() : uid_(cls_Uid::AllocateUid()) {}
+nex_Exception::nex_Exception() : m_uid(cls_Uid::AllocateUid()) {}
 nex_Exception::~nex_Exception() = default;
 
-std::uint32_t nex_Exception::TypeId() { return nex_ExceptionType; }
-std::uint32_t nex_Exception::DynTypeId() const { return TypeId(); }
+unsigned nex_Exception::TypeId() { return nex_ExceptionTypeId; }
+unsigned nex_Exception::DynTypeId() const { return TypeId(); }
 
 atr_String nex_Exception::UserReport() const { return AsString(); }
 
 atr_String nex_Exception::DeveloperReport() const {
     atr_translate report("%s at %s:%d: %s");
     atr_SubstituteFormat(report, 1, nexClassName(*this));
-    atr_SubstituteFormat(report, 2, site_.file ? site_.file : "");
-    atr_SubstituteFormat(report, 3, site_.line);
+    atr_SubstituteFormat(report, 2, m_site.file ? m_site.file : "");
+    atr_SubstituteFormat(report, 3, m_site.line);
     atr_SubstituteFormat(report, 4, AsString().Text());
     return report.Result();
 }
 
 void nex_Exception::Throw(char const* file, int line) {
-    site_.file = file;
-    site_.line = line;
+    m_site.file = file;
+    m_site.line = line;
     std::unique_ptr<nex_Exception const> const raised(Copy());
     raised->Propagate();
+    std::abort();  // a class whose Propagate returns breaks every caller's contract
 }

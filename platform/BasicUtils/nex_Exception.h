@@ -8,32 +8,33 @@
 
 class cls_WriteVisitor;
 
-// The one way to fail. An exception is built on the stack and thrown through Throw; handlers catch
-// nex_Exception by reference and ask it for its reports. The tree stands apart from std::exception:
-// what a user reads is a translatable text, and there is no second, plain one beside it.
+/// The one way to fail. An exception is built on the stack and thrown through Throw; handlers catch
+/// nex_Exception by reference and ask it for its reports. The tree stands apart from
+/// std::exception: what a user reads is a translatable text, and there is no second, plain one
+/// beside it.
 class nex_Exception : public mem_AllocationOperators {
 public:
     virtual ~nex_Exception();
 
-    // The user's message with class, file and line.
+    /// The user's message with class, file and line.
     virtual atr_String DeveloperReport() const;
     virtual atr_String UserReport() const;
     virtual atr_String AsString() const = 0;
-    // Throws a copy of the most derived type.
+    /// Throws a copy of the most derived type.
     [[noreturn]] virtual void Propagate() const = 0;
-    // The caller owns the copy.
+    /// The caller owns the copy.
     virtual nex_Exception* Copy() const = 0;
-    virtual std::uint32_t DynTypeId() const;
+    virtual unsigned DynTypeId() const;
     virtual void DBWrite(cls_WriteVisitor const& visitor) const;
 
-    // Keeps the pointer: `file` is a literal, or outlives every copy of the exception.
+    /// Keeps the pointer: `file` is a literal, or outlives every copy of the exception.
     [[noreturn]] void Throw(char const* file, int line);
 
-    // Null and 0 before Throw.
-    char const* File() const { return site_.file; }
-    int Line() const { return site_.line; }
+    /// Null and 0 before Throw.
+    char const* File() const { return m_site.file; }
+    int Line() const { return m_site.line; }
 
-    static std::uint32_t TypeId();
+    static unsigned TypeId();
 
 protected:
     nex_Exception();
@@ -46,6 +47,6 @@ private:
         int line = 0;
     };
 
-    ThrowSite site_;
-    cls_Uid uid_;
+    ThrowSite m_site;
+    cls_Uid m_uid;
 };

@@ -1,11 +1,13 @@
 #include "CaeUtils.h"
 
-#include "cls_TypeIds.h"
-#include "mdl_TypeIds.h"
+#include "nex_TypeIds.h"
+#include "omu_TypeIds.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
 
 namespace {
+
+constexpr std::uint16_t mdlComponent = 10;
 
 uti_Guard mdlGuard;
 
@@ -13,7 +15,7 @@ uti_Guard mdlGuard;
 // clang-format off
 constexpr typ_Entry mdlRows[] = {
     /*  0 */ {typ_placeholderKind, typ_root, nullptr},
-    /*  1 */ {typ_classKind, mdl_ExtensionType, "mdl_Repository"},
+    /*  1 */ {typ_classKind, mdl_ExtensionTypeId, "mdl_Repository"},
     /*  2 */ {typ_placeholderKind, typ_root, nullptr},
     /*  3 */ {typ_placeholderKind, typ_root, nullptr},
     /*  4 */ {typ_placeholderKind, typ_root, nullptr},
@@ -25,10 +27,17 @@ constexpr typ_Entry mdlRows[] = {
     /* 10 */ {typ_placeholderKind, typ_root, nullptr},
     /* 11 */ {typ_placeholderKind, typ_root, nullptr},
     /* 12 */ {typ_placeholderKind, typ_root, nullptr},
-    /* 13 */ {typ_classKind, typ_root, "mdl_Extension"},
-    /* 14 */ {typ_classKind, typ_root, "mdl_PropertyTable"},
-    /* 15 */ {typ_classKind, nex_CommandExceptionType, "omu_ValueErrorException"},
-    /* 16 */ {typ_classKind, nex_CommandExceptionType, "omu_AccessErrorException"},
+    /* 13 */ {typ_classKind, typ_root,                   "mdl_Extension"},
+    /* 14 */ {typ_classKind, typ_root,                   "mdl_PropertyTable"},
+    /* 15 */ {typ_classKind, nex_CommandExceptionTypeId, "omu_ValueErrorException"},
+    /* 16 */ {typ_classKind, nex_CommandExceptionTypeId, "omu_AccessErrorException"},
+    /* 17 */ {typ_classKind, typ_root,                   "omu_Primitive"},
+    /* 18 */ {typ_classKind, omu_PrimitiveTypeId,        "omu_PrimSequence"},
+    /* 19 */ {typ_classKind, omu_PrimitiveTypeId,        "omu_PrimEnumBase"},
+    /* 20 */ {typ_classKind, omu_PrimitiveTypeId,        "omu_PrimString"},
+    /* 21 */ {typ_classKind, omu_PrimitiveTypeId,        "omu_PrimInt"},
+    /* 22 */ {typ_classKind, omu_PrimitiveTypeId,        "omu_PrimDouble"},
+    /* 23 */ {typ_classKind, omu_PrimSequenceTypeId,     "omu_PrimTuple"},
 };
 // clang-format on
 
@@ -36,7 +45,7 @@ constexpr typ_Entry mdlRows[] = {
 
 void UTI_CaeUtils_initialize(int& count) {
     if (!mdlGuard.Raise(count)) return;
-    typ_ArchCompTable::InsertEntry(mdl_component,
+    typ_ArchCompTable::InsertEntry(mdlComponent,
                                    typ_ArchCompEntry(mdlRows, sizeof mdlRows / sizeof mdlRows[0]));
 }
 

@@ -2,7 +2,7 @@
 
 #include "nex_CommandException.h"
 
-// A key or path that does not exist. Its text is the key as it was asked for, never translated.
+/// A key or path that does not exist. Its text is the key as it was asked for, never translated.
 class omu_AccessErrorException : public nex_CommandException {
 public:
     explicit omu_AccessErrorException(cow_String const& key);
@@ -10,16 +10,16 @@ public:
 
     [[noreturn]] void Propagate() const override;
     nex_Exception* Copy() const override;
-    std::uint32_t DynTypeId() const override;
+    unsigned DynTypeId() const override;
     void DBWrite(cls_WriteVisitor const& visitor) const override;
     atr_String JournalMessage() const override;
     cow_String PythonType() const override;
 
-    cow_String const& Key() const { return key_; }
+    cow_String const& Key() const { return m_key; }
 
-    static std::uint32_t TypeId();
+    static unsigned TypeId();
 
 private:
-    cow_String key_;
-    cls_Uid uid_;
+    cow_String m_key;
+    cls_Uid m_uid;
 };

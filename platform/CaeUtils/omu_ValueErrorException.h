@@ -2,7 +2,7 @@
 
 #include "nex_CommandException.h"
 
-// A value that is not allowed.
+/// A value that is not allowed.
 class omu_ValueErrorException : public nex_CommandException {
 public:
     explicit omu_ValueErrorException(atr_String const& message);
@@ -10,14 +10,14 @@ public:
 
     [[noreturn]] void Propagate() const override;
     nex_Exception* Copy() const override;
-    std::uint32_t DynTypeId() const override;
+    unsigned DynTypeId() const override;
     void DBWrite(cls_WriteVisitor const& visitor) const override;
     atr_String JournalMessage() const override;
     cow_String PythonType() const override;
 
-    static std::uint32_t TypeId();
+    static unsigned TypeId();
 
 private:
-    atr_String message_;
-    cls_Uid uid_;
+    atr_String m_message;
+    cls_Uid m_uid;
 };

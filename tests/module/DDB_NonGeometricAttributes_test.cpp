@@ -4,7 +4,7 @@
 
 #include "DDB_Units.h"
 
-namespace {
+namespace DDB_NonGeometricAttributes_test {
 
 void FinalizeTwice(int& count) {
     DDB_NonGeometricAttributes_finalize(count);
@@ -127,4 +127,4 @@ TEST(Library, FormalizeIsThereAndDoesNothing) {
     klcC_formalize();
 }
 
-}  // namespace
+}  // namespace DDB_NonGeometricAttributes_test

@@ -6,13 +6,13 @@
 
 #include "DDB_NonGeometricAttributes.h"
 
-namespace {
+namespace type_tables_test {
 
 struct ExpectedRow {
     unsigned component;
     unsigned row;
     char const* name;
-    std::uint32_t parent;
+    unsigned parent;
 };
 
 ExpectedRow const expectedRows[] = {
@@ -37,11 +37,11 @@ Table const tables[] = {
 
 class TypeTables : public testing::Test {
 protected:
-    TypeTables() { DDB_NonGeometricAttributes_initialize(count_); }
-    ~TypeTables() override { DDB_NonGeometricAttributes_finalize(count_); }
+    TypeTables() { DDB_NonGeometricAttributes_initialize(m_count); }
+    ~TypeTables() override { DDB_NonGeometricAttributes_finalize(m_count); }
 
 private:
-    int count_ = 0;
+    int m_count = 0;
 };
 
 TEST_F(TypeTables, EveryTableHasItsRowCount) {
@@ -108,7 +108,7 @@ TEST_F(TypeTables, AncestryGoesUpThroughTheLibrariesBelow) {
 }
 
 TEST_F(TypeTables, AncestryOfEveryRowIsThatOfTheParentColumn) {
-    std::map<std::uint32_t, std::uint32_t> parents;
+    std::map<unsigned, unsigned> parents;
     for (ExpectedRow const& row : expectedRows) {
         parents[row.component << 16 | row.row] = row.parent;
     }
@@ -117,7 +117,7 @@ TEST_F(TypeTables, AncestryOfEveryRowIsThatOfTheParentColumn) {
     for (auto const& [type, parent] : parents) {
         for (auto const& [candidate, unused] : parents) {
             bool expected = false;
-            std::uint32_t at = type;
+            unsigned at = type;
             for (int steps = 0; steps < 20 && !expected && at > 1; ++steps) {
                 expected = at == candidate;
                 at = parents[at];
@@ -133,6 +133,11 @@ TEST_F(TypeTables, RowsOfTheFloorsBelow) {
     EXPECT_STREQ(typ_ArchCompTable::GetName(0xA000D), "mdl_Extension");
     EXPECT_STREQ(typ_ArchCompTable::GetName(0xA000E), "mdl_PropertyTable");
     EXPECT_STREQ(typ_ArchCompTable::GetName(0xA0007), "");
+    EXPECT_STREQ(typ_ArchCompTable::GetName(omu_PrimTupleTypeId), "omu_PrimTuple");
+    EXPECT_STREQ(typ_ArchCompTable::GetName(omu_PrimEnumBaseTypeId), "omu_PrimEnumBase");
+    EXPECT_TRUE(typ_ArchCompTable::IsParent(omu_PrimTupleTypeId, omu_PrimitiveTypeId));
+    EXPECT_STREQ(typ_ArchCompTable::GetName(nex_Exception::TypeId()), "nex_Exception");
+    EXPECT_STREQ(typ_ArchCompTable::GetName(nex_TextException::TypeId()), "nex_TextException");
     EXPECT_STREQ(typ_ArchCompTable::GetName(0x230001), "cls_List");
     EXPECT_STREQ(typ_ArchCompTable::GetName(0x230002), "cls_Map");
     EXPECT_TRUE(
@@ -141,4 +146,4 @@ TEST_F(TypeTables, RowsOfTheFloorsBelow) {
                                             nex_CommandException::TypeId()));
 }
 
-}  // namespace
+}  // namespace type_tables_test

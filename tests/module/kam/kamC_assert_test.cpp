@@ -7,7 +7,7 @@
 
 #include "nex_TextException.h"
 
-namespace {
+namespace kamC_assert_test {
 
 struct Message {
     int code;
@@ -56,4 +56,4 @@ TEST(kamC_Assert, AConditionThatHoldsRaisesNothing) {
     }
 }
 
-}  // namespace
+}  // namespace kamC_assert_test

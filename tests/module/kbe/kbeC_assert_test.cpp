@@ -7,7 +7,7 @@
 
 #include "nex_TextException.h"
 
-namespace {
+namespace kbeC_assert_test {
 
 struct Message {
     int code;
@@ -102,4 +102,4 @@ TEST(kbeC_AssertContent, AConditionThatHoldsRaisesNothing) {
     EXPECT_NO_THROW(kbeC_AssertContent(true, kbeC_ContentErrorEnm(2), cow_String("x")));
 }
 
-}  // namespace
+}  // namespace kbeC_assert_test

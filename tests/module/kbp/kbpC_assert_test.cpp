@@ -7,7 +7,7 @@
 
 #include "nex_TextException.h"
 
-namespace {
+namespace kbpC_assert_test {
 
 struct Message {
     int code;
@@ -56,4 +56,4 @@ TEST(kbpC_Assert, AConditionThatHoldsRaisesNothing) {
     }
 }
 
-}  // namespace
+}  // namespace kbpC_assert_test

@@ -7,7 +7,7 @@
 
 #include "nex_TextException.h"
 
-namespace {
+namespace kflC_assert_test {
 
 struct Message {
     int code;
@@ -56,4 +56,4 @@ TEST(kflC_Assert, AConditionThatHoldsRaisesNothing) {
     }
 }
 
-}  // namespace
+}  // namespace kflC_assert_test

@@ -7,7 +7,7 @@
 
 #include "nex_TextException.h"
 
-namespace {
+namespace klcC_assert_test {
 
 struct Message {
     int code;
@@ -102,4 +102,4 @@ TEST(klcC_AssertLoadCaseContent, AConditionThatHoldsRaisesNothing) {
     EXPECT_NO_THROW(klcC_AssertLoadCaseContent(true, klcC_CompoundErrorEnm(6), cow_String("x")));
 }
 
-}  // namespace
+}  // namespace klcC_assert_test

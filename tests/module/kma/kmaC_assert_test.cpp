@@ -7,7 +7,7 @@
 
 #include "nex_TextException.h"
 
-namespace {
+namespace kmaC_assert_test {
 
 struct Message {
     int code;
@@ -56,4 +56,4 @@ TEST(kmaC_Assert, AConditionThatHoldsRaisesNothing) {
     }
 }
 
-}  // namespace
+}  // namespace kmaC_assert_test

@@ -4,13 +4,14 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <set>
 #include <string>
 #include <thread>
 #include <unordered_set>
 #include <vector>
 
-namespace {
+namespace cls_Uid_test {
 
 std::string Text(cls_Uid const& uid) {
     char text[33];
@@ -111,31 +112,35 @@ TEST(Uid, HashesOfNeighboursSpread) {
     EXPECT_GT(low.size(), 3800u);
 }
 
-// The process's own half is drawn anew by every process: two runs of this program differ in it.
+std::string Prefix() { return Text(cls_Uid::AllocateUid()).substr(0, 16); }
+
+// Also what the next test runs this program for.
+TEST(Uid, TheProcessHasAHalfOfItsOwn) {
+    std::printf("prefix=%s\n", Prefix().c_str());
+    EXPECT_EQ(Prefix(), Prefix());
+    EXPECT_NE(Prefix(), "0000000000000000");
+}
+
+std::string PrefixOfAnotherProcess() {
+    std::string output;
+    FILE* pipe = popen(("'" + std::filesystem::read_symlink("/proc/self/exe").string() +
+                        "' --gtest_filter=Uid.TheProcessHasAHalfOfItsOwn")
+                           .c_str(),
+                       "r");
+    if (!pipe) return output;
+    for (int c; (c = std::fgetc(pipe)) != EOF;) output.push_back(static_cast<char>(c));
+    pclose(pipe);
+    std::size_t const at = output.find("prefix=");
+    return at == std::string::npos ? std::string() : output.substr(at + 7, 16);
+}
+
 TEST(Uid, AnotherProcessAllocatesOthers) {
-    auto const prefixOf = [](std::string const& program) {
-        std::string const command = "'" + program +
-                                    "' --gtest_also_run_disabled_tests "
-                                    "--gtest_filter=Uid.DISABLED_PrintsAPrefix";
-        std::string output;
-        FILE* pipe = popen(command.c_str(), "r");
-        if (!pipe) return output;
-        for (int c; (c = std::fgetc(pipe)) != EOF;) output.push_back(static_cast<char>(c));
-        pclose(pipe);
-        std::size_t const at = output.find("prefix=");
-        return at == std::string::npos ? std::string() : output.substr(at + 7, 16);
-    };
-    std::string const program = testing::internal::GetArgvs().at(0);
-    std::string const first = prefixOf(program);
-    std::string const second = prefixOf(program);
+    std::string const first = PrefixOfAnotherProcess();
+    std::string const second = PrefixOfAnotherProcess();
     ASSERT_EQ(first.size(), 16u);
     ASSERT_EQ(second.size(), 16u);
     EXPECT_NE(first, second);
-    EXPECT_NE(first, Text(cls_Uid::AllocateUid()).substr(0, 16));
+    EXPECT_NE(first, Prefix());
 }
 
-TEST(Uid, DISABLED_PrintsAPrefix) {
-    std::printf("prefix=%s\n", Text(cls_Uid::AllocateUid()).substr(0, 16).c_str());
-}
-
-}  // namespace
+}  // namespace cls_Uid_test

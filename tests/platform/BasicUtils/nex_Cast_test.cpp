@@ -5,12 +5,12 @@
 #include "nex_TextException.h"
 #include "typ_ArchCompTable.h"
 
-namespace {
+namespace nex_Cast_test {
 
 constexpr std::uint16_t component = 60010;
-constexpr std::uint32_t base = typ_MakeTypeId(component, 1);
-constexpr std::uint32_t derived = typ_MakeTypeId(component, 2);
-constexpr std::uint32_t unknown = typ_MakeTypeId(component, 9);
+constexpr unsigned base = typ_MakeTypeId(component, 1);
+constexpr unsigned derived = typ_MakeTypeId(component, 2);
+constexpr unsigned unknown = typ_MakeTypeId(component, 9);
 
 typ_Entry const rows[] = {{0, 1, nullptr}, {7, 1, "test_Base"}, {7, base, "test_Derived"}};
 
@@ -18,7 +18,7 @@ class Cast : public testing::Test {
 protected:
     Cast() { typ_ArchCompTable::InsertEntry(component, typ_ArchCompEntry(rows, 3)); }
 
-    static void ExpectRefused(std::uint32_t target, std::uint32_t dynamic, char const* text) {
+    static void ExpectRefused(unsigned target, unsigned dynamic, char const* text) {
         bool refused = false;
         try {
             nex_canDynamicCastRef(target, dynamic, "cast/file", 42);
@@ -47,4 +47,4 @@ TEST_F(Cast, NamesATypeThatNoTableHoldsByItsNumber) {
     ExpectRefused(unknown, base, "Cannot cast test_Base to 0xea6a0009");
 }
 
-}  // namespace
+}  // namespace nex_Cast_test

@@ -8,7 +8,7 @@
 #include "BasicUtils.h"
 #include "nex_TextException.h"
 
-namespace {
+namespace nex_Exception_test {
 
 std::string DeveloperReportOf(nex_Exception& exception, char const* file, int line) {
     try {
@@ -78,7 +78,7 @@ TEST(TextException, ReportsToTheDeveloperClassFileLineAndMessage) {
 class UnknownFailure : public nex_TextException {
 public:
     using nex_TextException::nex_TextException;
-    std::uint32_t DynTypeId() const override { return 0xfff00001; }
+    unsigned DynTypeId() const override { return 0xfff00001; }
     [[noreturn]] void Propagate() const override { throw UnknownFailure(*this); }
     nex_Exception* Copy() const override { return new UnknownFailure(*this); }
 };
@@ -95,4 +95,4 @@ TEST(TextException, LeavesNothingBehindWhenThrownOften) {
     }
 }
 
-}  // namespace
+}  // namespace nex_Exception_test

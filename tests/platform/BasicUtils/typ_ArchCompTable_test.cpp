@@ -2,15 +2,15 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace typ_ArchCompTable_test {
 
 // Components that no library owns.
 constexpr std::uint16_t first = 60001;
 constexpr std::uint16_t second = 60002;
 constexpr std::uint16_t absent = 60003;
 
-constexpr std::uint32_t a(std::uint16_t row) { return typ_MakeTypeId(first, row); }
-constexpr std::uint32_t b(std::uint16_t row) { return typ_MakeTypeId(second, row); }
+constexpr unsigned a(std::uint16_t row) { return typ_MakeTypeId(first, row); }
+constexpr unsigned b(std::uint16_t row) { return typ_MakeTypeId(second, row); }
 
 typ_Entry const firstRows[] = {
     {0, 1, nullptr},      {7, 1, "root child"},    {7, a(1), "grandchild"},
@@ -72,7 +72,7 @@ TEST_F(ArchCompTable, AnUndeclaredParentIsNobodysAncestor) {
 
 TEST_F(ArchCompTable, EndsWhereParentsFormACycle) {
     EXPECT_FALSE(typ_ArchCompTable::IsParent(a(3), typ_root));
-    for (std::uint32_t type : {a(4), a(5), b(1), a(7)}) {
+    for (unsigned type : {a(4), a(5), b(1), a(7)}) {
         EXPECT_FALSE(typ_ArchCompTable::IsParent(type, typ_root));
         EXPECT_TRUE(typ_ArchCompTable::IsParent(type, a(4)));
         EXPECT_TRUE(typ_ArchCompTable::IsParent(type, a(5)));
@@ -89,7 +89,7 @@ TEST_F(ArchCompTable, ALongChainIsWalkedToItsEndAndAroundItsCycle) {
         rows[row] = {7, typ_MakeTypeId(absent + 1, static_cast<std::uint16_t>(row - 1)), "link"};
     }
     typ_ArchCompTable::InsertEntry(absent + 1, typ_ArchCompEntry(rows, length));
-    std::uint32_t const last = typ_MakeTypeId(absent + 1, length - 1);
+    unsigned const last = typ_MakeTypeId(absent + 1, length - 1);
     for (std::uint16_t row = 0; row < length; ++row) {
         EXPECT_TRUE(typ_ArchCompTable::IsParent(last, typ_MakeTypeId(absent + 1, row)));
     }
@@ -113,4 +113,4 @@ TEST_F(ArchCompTable, ALaterTableReplacesTheEarlierOne) {
     EXPECT_STREQ(typ_ArchCompTable::GetName(a(1)), "");
 }
 
-}  // namespace
+}  // namespace typ_ArchCompTable_test

@@ -8,7 +8,7 @@
 #include "ROM.h"
 #include "RfmInterface.h"
 
-namespace {
+namespace uti_Guard_test {
 
 TEST(Guard, OnlyTheFirstRaiseAndTheLastLowerAct) {
     uti_Guard guard;
@@ -63,4 +63,4 @@ TEST(Guard, EveryLibraryCountsItselfOnce) {
     EXPECT_EQ(count, 0);
 }
 
-}  // namespace
+}  // namespace uti_Guard_test

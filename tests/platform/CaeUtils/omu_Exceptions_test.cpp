@@ -6,7 +6,7 @@
 #include "omu_AccessErrorException.h"
 #include "omu_ValueErrorException.h"
 
-namespace {
+namespace omu_Exceptions_test {
 
 template <class E>
 std::unique_ptr<E> Caught(E failure) {
@@ -49,4 +49,4 @@ TEST(AccessErrorException, AnEmptyKeyGivesAnEmptyText) {
     EXPECT_STREQ(caught->AsString().Text(), "");
 }
 
-}  // namespace
+}  // namespace omu_Exceptions_test

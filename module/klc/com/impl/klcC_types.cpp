@@ -1,21 +1,21 @@
 #include "klcC_ArchEntry.h"
-#include "mdl_TypeIds.h"
+#include "omu_TypeIds.h"
 #include "typ_Entry.h"
 
 namespace {
 
-constexpr std::uint32_t klc(std::uint16_t row) { return typ_MakeTypeId(klcC_component, row); }
+constexpr unsigned klc(std::uint16_t row) { return typ_MakeTypeId(klcC_component, row); }
 
 // clang-format off
 constexpr typ_Entry klcRows[] = {
     /*   0 */ {typ_placeholderKind, typ_root, nullptr},
-    /*   1 */ {typ_classKind, typ_root,           "klcC_LoadCase"},
-    /*   2 */ {typ_classKind, mdl_RepositoryType, "klcC_LoadCaseCont"},
-    /*   3 */ {typ_classKind, typ_root,           "klcC_LoadCaseIMPLSC"},
-    /*   4 */ {typ_classKind, typ_root,           "klcC_LoadCaseShortcut"},
-    /*   5 */ {typ_classKind, klc(3),             "klcC_LoadCaseInLoadCaseContShortcut"},
-    /*   6 */ {typ_classKind, typ_root,           "klcC_LoadCaseContIMPLSC"},
-    /*   7 */ {typ_classKind, typ_root,           "klcC_LoadCaseContShortcut"},
+    /*   1 */ {typ_classKind, typ_root,              "klcC_LoadCase"},
+    /*   2 */ {typ_classKind, mdl_RepositoryTypeId,  "klcC_LoadCaseCont"},
+    /*   3 */ {typ_classKind, typ_root,              "klcC_LoadCaseIMPLSC"},
+    /*   4 */ {typ_classKind, typ_root,              "klcC_LoadCaseShortcut"},
+    /*   5 */ {typ_classKind, klc(3),                "klcC_LoadCaseInLoadCaseContShortcut"},
+    /*   6 */ {typ_classKind, typ_root,              "klcC_LoadCaseContIMPLSC"},
+    /*   7 */ {typ_classKind, typ_root,              "klcC_LoadCaseContShortcut"},
 };
 // clang-format on
 
