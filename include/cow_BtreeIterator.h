@@ -1,0 +1,78 @@
+#pragma once
+
+#include "cow_Btree.h"
+
+// Walks a tree in key order, either way. It holds no share of the tree: a write to the tree ends
+// its use.
+template <class K, class V>
+class cow_BtreeIterator {
+public:
+    using Node = cow_BtreeNode<K, V>;
+    using Link = cow_BtreeNodeLink<K, V>;
+
+    explicit cow_BtreeIterator(cow_Btree<K, V> const& walked) : tree(&walked) {}
+    cow_BtreeIterator(cow_BtreeIterator const&) = delete;
+    cow_BtreeIterator& operator=(cow_BtreeIterator const&) = delete;
+    ~cow_BtreeIterator() { Clear(); }
+
+    // All four tell whether there is a current node afterwards.
+    bool First() {
+        Clear();
+        Descend(tree->Root(), &Node::Left);
+        return top != nullptr;
+    }
+    bool Last() {
+        Clear();
+        Descend(tree->Root(), &Node::Right);
+        return top != nullptr;
+    }
+    bool Next() { return Step(&Node::Right, &Node::Left); }
+    bool Previous() { return Step(&Node::Left, &Node::Right); }
+
+    bool IsDone() const noexcept { return top == nullptr; }
+    Link const* CurrentLink() const noexcept { return top ? top->link : nullptr; }
+    // Only while there is a current node.
+    Node const& CurrentNode() const noexcept { return top->link->ConstGet(); }
+    K const& CurrentKey() const noexcept { return CurrentNode().Key(); }
+    V const& CurrentValue() const noexcept { return CurrentNode().Value(); }
+
+private:
+    using Side = Link const* (Node::*)() const noexcept;
+
+    struct Cell {
+        Link const* link;
+        Cell* next;
+    };
+
+    void Push(Link const* link) {
+        top = ::new (mem_OperatorNewThrow(sizeof(Cell))) Cell{link, top};
+    }
+    Link const* Pop() noexcept {
+        Cell* const cell = top;
+        Link const* const link = cell->link;
+        top = cell->next;
+        mem_Free(cell);
+        return link;
+    }
+    void Clear() noexcept {
+        while (top) Pop();
+    }
+    void Descend(Link const* link, Side side) {
+        for (; link; link = (link->ConstGet().*side)()) Push(link);
+    }
+    bool Step(Side ahead, Side back) {
+        if (!top) return false;
+        if (Link const* const further = (CurrentNode().*ahead)()) {
+            Descend(further, back);
+            return true;
+        }
+        Link const* done;
+        do {
+            done = Pop();
+        } while (top && (CurrentNode().*ahead)() == done);
+        return top != nullptr;
+    }
+
+    cow_Btree<K, V> const* tree;
+    Cell* top = nullptr;
+};

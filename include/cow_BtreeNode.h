@@ -1,0 +1,213 @@
+#pragma once
+
+#include <utility>
+
+#include "atr_NaturalOrder.h"
+#include "cow_COW.h"
+#include "cow_String.h"
+
+// The order of keys: the sign of Compare(searched, held) tells the way down.
+template <class K>
+struct cow_BtreeOrder {
+    static int Compare(K const& a, K const& b) noexcept { return a < b ? -1 : b < a ? 1 : 0; }
+};
+template <>
+struct cow_BtreeOrder<cow_String> {
+    static int Compare(cow_String const& a, cow_String const& b) noexcept {
+        return atr_CompareNames(a, b);
+    }
+};
+
+template <class K, class V>
+class cow_BtreeNode;
+
+// The link to a child: a handle on the heap, so that copies of a node can share their children.
+template <class K, class V>
+using cow_BtreeNodeLink = cow_COW<cow_BtreeNode<K, V>, cow_Direct<cow_BtreeNode<K, V>>>;
+
+// One key of a tree with its value. Trees are balanced by single rotations on stored heights. What
+// changes a node is called on nodes that belong to one tree alone; shared children are detached on
+// the way down.
+template <class K, class V>
+class cow_BtreeNode {
+public:
+    using Link = cow_BtreeNodeLink<K, V>;
+
+    cow_BtreeNode(K const& nodeKey, V const& nodeValue) : value(nodeValue), key(nodeKey) {}
+    // Shares value, key and children.
+    cow_BtreeNode(cow_BtreeNode const& other)
+        : value(other.value), key(other.key), height(other.height) {
+        Released copies{CopyLink(other.left), nullptr};
+        copies.second = CopyLink(other.right);
+        left = std::exchange(copies.first, nullptr);
+        right = std::exchange(copies.second, nullptr);
+    }
+    cow_BtreeNode& operator=(cow_BtreeNode const&) = delete;
+    ~cow_BtreeNode() {
+        ReleaseLink(left);
+        ReleaseLink(right);
+    }
+
+    // The node of the key, or null; copies nothing.
+    cow_BtreeNode const* ConstFind(K const& searched) const noexcept {
+        cow_BtreeNode const* node = this;
+        for (;;) {
+            Link const* const toLeft = node->left;
+            Link const* const toRight = node->right;
+            int const order = cow_BtreeOrder<K>::Compare(searched, node->key);
+            if (order == 0) return node;
+            Link const* const next = order < 0 ? toLeft : toRight;
+            if (!next) return nullptr;
+            node = next->GetPtr();
+        }
+    }
+    // The node of the key, made this tree's own with all on the way, or null.
+    cow_BtreeNode* Find(K const& searched) {
+        cow_BtreeNode* node = this;
+        for (;;) {
+            int const order = cow_BtreeOrder<K>::Compare(searched, node->key);
+            if (order == 0) return node;
+            Link* const next = order < 0 ? node->left : node->right;
+            if (!next) return nullptr;
+            node = &next->Get();
+        }
+    }
+    // False for a key that is there, whose value stays. inserted becomes true as soon as the key is
+    // in the tree, also when balancing fails afterwards for want of memory.
+    bool InsertUnlessMember(K const& inKey, V const& inValue, bool& inserted) {
+        int const order = cow_BtreeOrder<K>::Compare(inKey, key);
+        if (order == 0) return false;
+        Link*& child = order < 0 ? left : right;
+        if (child) {
+            cow_BtreeNode& node = child->Get();
+            if (!node.InsertUnlessMember(inKey, inValue, inserted)) return false;
+            if (Link* const risen = node.Balance(child)) child = risen;
+        } else {
+            child = NewLink(inKey, inValue);
+            inserted = true;
+        }
+        ComputeHeight();
+        return true;
+    }
+    // Takes the node of the key out of the subtree of this node, whose parent is given. removed
+    // becomes true as soon as the key is gone.
+    bool Remove(K const& outKey, cow_BtreeNode& parent, bool& removed) {
+        int const order = cow_BtreeOrder<K>::Compare(outKey, key);
+        if (order != 0) {
+            Link*& child = order < 0 ? left : right;
+            if (!child) return false;
+            if (!child->Get().Remove(outKey, *this, removed)) return false;
+            if (child) {
+                if (Link* const risen = child->Get().Balance(child)) child = risen;
+            }
+            ComputeHeight();
+            return true;
+        }
+        Link* const replacement = TakeReplacement();
+        left = right = nullptr;
+        parent.RemoveNode(this, replacement);
+        removed = true;
+        return true;
+    }
+    // Puts the replacement, which may be null, in the place of a child and ends the child.
+    void RemoveNode(cow_BtreeNode const* child, Link* replacement) noexcept {
+        Link*& place = right && right->GetPtr() == child ? right : left;
+        ReleaseLink(std::exchange(place, replacement));
+        ComputeHeight();
+    }
+    // Rotates where one side stands two above the other by the stored heights, a missing child
+    // counting 0 like a leaf. Gets the link that points here; gives the one to put in its place, or
+    // null.
+    Link* Balance(Link* link) {
+        int const difference = HeightOf(right) - HeightOf(left);
+        if (difference >= 2) {
+            cow_BtreeNode& child = right->Get();
+            Link* const risen = std::exchange(right, child.left);
+            child.left = link;
+            ComputeHeight();
+            child.ComputeHeight();
+            return risen;
+        }
+        if (difference < -1) {
+            cow_BtreeNode& child = left->Get();
+            Link* const risen = std::exchange(left, child.right);
+            child.right = link;
+            ComputeHeight();
+            child.ComputeHeight();
+            return risen;
+        }
+        return nullptr;
+    }
+
+    K const& Key() const noexcept { return key; }
+    V const& Value() const noexcept { return value; }
+    V& Value() noexcept { return value; }
+    Link const* Left() const noexcept { return left; }
+    Link const* Right() const noexcept { return right; }
+    int Height() const noexcept { return height; }
+
+    static Link* NewLink(K const& key, V const& value) {
+        cow_OwnedBlock block(mem_OperatorNewThrow(sizeof(Link)));
+        Link* const link = ::new (block.Get()) Link(cow_New<cow_BtreeNode>(key, value));
+        block.Release();
+        return link;
+    }
+    static Link* CopyLink(Link const* link) {
+        if (!link) return nullptr;
+        return ::new (mem_OperatorNewThrow(sizeof(Link))) Link(*link);
+    }
+    static void ReleaseLink(Link* link) noexcept {
+        if (!link) return;
+        link->~Link();
+        mem_Free(link);
+    }
+
+private:
+    template <class, class>
+    friend class cow_Btree;
+
+    struct Released {
+        Link* first;
+        Link* second;
+        ~Released() {
+            ReleaseLink(first);
+            ReleaseLink(second);
+        }
+    };
+
+    static int HeightOf(Link const* link) noexcept { return link ? link->GetPtr()->height : 0; }
+    void ComputeHeight() noexcept {
+        int const fromLeft = left ? left->GetPtr()->height + 1 : 0;
+        int const fromRight = right ? right->GetPtr()->height + 1 : 0;
+        height = fromLeft > fromRight ? fromLeft : fromRight;
+    }
+
+    // The link to stand in this node's place: its one child, or the smallest node of its right
+    // side, already joined to both sides. All detaching comes before the first change.
+    Link* TakeReplacement() {
+        if (!right) return left;
+        if (!left) return right;
+        Link* smallest = right;
+        cow_BtreeNode* node = &right->Get();
+        cow_BtreeNode* parent = nullptr;
+        while (node->left) {
+            parent = node;
+            smallest = node->left;
+            node = &smallest->Get();
+        }
+        if (parent) {
+            parent->left = node->right;
+            node->right = right;
+            parent->ComputeHeight();
+        }
+        node->left = left;
+        node->ComputeHeight();
+        return smallest;
+    }
+
+    V value;
+    K key;
+    Link* left = nullptr;
+    Link* right = nullptr;
+    int height = 0;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+
+// All memory of the library comes from these functions and goes back through mem_Free, whichever
+// of them gave it. Every one of them throws std::bad_alloc when memory is exhausted; none returns
+// null. Blocks up to 512 bytes come from pools by size class, which each thread fills and drains
+// without locks; a block may be released by another thread than the one that took it. Pooled
+// memory is kept for reuse and not returned to the system.
+
+[[nodiscard]] void* mem_OperatorNewThrow(std::size_t size);
+// For blocks of a few bytes: count cells and page headers. Blocks up to 8 bytes are aligned to 8,
+// all others to 16.
+[[nodiscard]] void* mem_OperatorNewTinyThrow(std::size_t size);
+// Straight from the system, never pooled.
+[[nodiscard]] void* mem_OperatorNewThrowBuiltin(std::size_t size);
+
+[[nodiscard]] void* mem_Malloc(std::size_t size);
+// On failure the old block stays as it was.
+[[nodiscard]] void* mem_Realloc(void* block, std::size_t size);
+void mem_Free(void* block) noexcept;
+
+// Asked at each allocation while it is set; true makes that allocation fail. Tests use it to let
+// every allocation fail once and, by answering false, to count them. Returns the former hook.
+using mem_FailureHook = bool (*)(std::size_t size);
+mem_FailureHook mem_SetFailureHook(mem_FailureHook hook) noexcept;
