@@ -1,7 +1,6 @@
 # The warnings, sanitizers and instrumentation that every target of the project takes.
 function(nga_flags target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wno-sign-conversion -Wshadow
-    -Wnon-virtual-dtor -Woverloaded-virtual)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wno-sign-conversion -Woverloaded-virtual)
   if(NGA_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
   endif()

@@ -11,6 +11,8 @@ public:
     explicit cow_ArrayCOW(T* object) : cow_COW<T, Policy>(object) {}
     explicit cow_ArrayCOW(T const& value) : cow_COW<T, Policy>(value) {}
     cow_ArrayCOW(cow_ArrayCOW const&) noexcept = default;
+    cow_ArrayCOW(cow_ShareErased share, cow_HandleBase const& erased) noexcept
+        : cow_COW<T, Policy>(share, erased) {}
     cow_ArrayCOW& operator=(cow_ArrayCOW const&) noexcept = default;
     cow_ArrayCOW& operator=(T* object) {
         cow_COW<T, Policy>::operator=(object);

@@ -13,6 +13,8 @@ public:
     explicit cow_COW(T* object) : cow_CountedHld<T>(object) {}
     explicit cow_COW(T const& value) : cow_CountedHld<T>(Policy::Copy(value)) {}
     cow_COW(cow_COW const&) noexcept = default;
+    cow_COW(cow_ShareErased share, cow_HandleBase const& erased) noexcept
+        : cow_CountedHld<T>(share, erased) {}
     cow_COW& operator=(cow_COW const&) noexcept = default;
     cow_COW& operator=(T* object) {
         cow_CountedHld<T>::operator=(object);

@@ -16,6 +16,8 @@ public:
         referent = owned.Release();
     }
     cow_CountedHld(cow_CountedHld const&) noexcept = default;
+    cow_CountedHld(cow_ShareErased, cow_HandleBase const& erased) noexcept
+        : cow_HandleBase(erased) {}
     ~cow_CountedHld() {
         if (--*count == 0) Delete();
     }

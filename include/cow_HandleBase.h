@@ -4,6 +4,9 @@
 
 #include "mem_Memory.h"
 
+// Says that a handle is to share what a type-erased one holds; the caller vouches for the type.
+struct cow_ShareErased {};
+
 // The two words of every counted handle, without its type. Engines that treat all handles alike
 // (visitors, class metadata) work on this base; whoever knows the type supplies what destroys the
 // referent. Counts are plain integers: a handle and all that shares with it belong to one thread.

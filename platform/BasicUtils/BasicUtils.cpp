@@ -1,6 +1,9 @@
 #include "BasicUtils.h"
 
+#include "cls_Codes.h"
+#include "cls_MetadataRegistrar.h"
 #include "nex_TypeIds.h"
+#include "omi_Singleton.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
 
@@ -21,12 +24,21 @@ constexpr typ_Entry utiRows[] = {
 };
 // clang-format on
 
+// The collections are classes of the frame: their records have no fields of their own under the
+// schema, but a stored database names them like any other class.
+void DescribeCollections(cls_ClassRegistrar& registrar) {
+    registrar.CreateClassMD("cls_List", cls_ListTypeId, 203, nullptr, cls_RootTypeId);
+    registrar.CreateClassMD("cls_Map", cls_MapTypeId, 203, nullptr, cls_RootTypeId);
+}
+
 }  // namespace
 
 void UTI_BasicUtils_initialize(int& count) {
     if (!utiGuard.Raise(count)) return;
     typ_ArchCompTable::InsertEntry(utiComponent,
                                    typ_ArchCompEntry(utiRows, sizeof utiRows / sizeof utiRows[0]));
+    omi_Singleton<cls_MetadataRegistrar>::Instance().initClassMetadata(DescribeCollections,
+                                                                       cls_DomainsAll);
 }
 
 void UTI_BasicUtils_finalize(int& count) { utiGuard.Lower(count); }

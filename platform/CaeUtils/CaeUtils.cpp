@@ -1,6 +1,9 @@
 #include "CaeUtils.h"
 
+#include "cls_MetadataRegistrar.h"
+#include "mdl_Repository.h"
 #include "nex_TypeIds.h"
+#include "omi_Singleton.h"
 #include "omu_TypeIds.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
@@ -47,6 +50,9 @@ void UTI_CaeUtils_initialize(int& count) {
     if (!mdlGuard.Raise(count)) return;
     typ_ArchCompTable::InsertEntry(mdlComponent,
                                    typ_ArchCompEntry(mdlRows, sizeof mdlRows / sizeof mdlRows[0]));
+    cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
+    registrar.initClassMetadata(mdl_Extension::InitializeMetadata, cls_DomainsAll);
+    registrar.initClassMetadata(mdl_Repository::InitializeMetadata, cls_DomainsAll);
 }
 
 void UTI_CaeUtils_finalize(int& count) { mdlGuard.Lower(count); }

@@ -2,6 +2,7 @@
 
 #include "atr_String.h"
 #include "cow_String.h"
+#include "mdl_RuleVisitor.h"
 
 /// The module itself raises only the first; the others are for the host, which knows the steps.
 enum klcC_ErrorEnm : int {
@@ -44,3 +45,6 @@ inline void klcC_AssertLoadCaseContent(bool condition, klcC_CompoundErrorEnm cod
                                        cow_String const& name) {
     if (!condition) klcC_FailCompound(code, name);
 }
+
+/// What the rules of this module's classes raise through.
+extern mdl_Module const klcC_Module;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "atr_String.h"
+#include "mdl_RuleVisitor.h"
 
 /// Codes are written as their numbers, by which rules and table are held against each other.
 enum kmaC_ErrorEnm : int {};
@@ -16,3 +17,6 @@ atr_String kmaC_ErrorText(kmaC_ErrorEnm code);
 inline void kmaC_Assert(bool condition, kmaC_ErrorEnm code) {
     if (!condition) kmaC_Fail(code);
 }
+
+/// What the rules of this module's classes raise through.
+extern mdl_Module const kmaC_Module;

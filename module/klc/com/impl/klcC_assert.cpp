@@ -42,3 +42,6 @@ atr_String klcC_CompoundErrorText(klcC_CompoundErrorEnm code, cow_String const& 
 void klcC_FailCompound(klcC_CompoundErrorEnm code, cow_String const& name) {
     nex_TextException(klcC_CompoundErrorText(code, name)).Throw(klcSource, 64);
 }
+
+mdl_Module const klcC_Module = {"klc", [](int code) { return klcC_ErrorText(klcC_ErrorEnm(code)); },
+                                [](int code) { klcC_Fail(klcC_ErrorEnm(code)); }};

@@ -1,6 +1,9 @@
 #include "klcC_module.h"
 
+#include "cls_MetadataRegistrar.h"
 #include "klcC_ArchEntry.h"
+#include "klcC_LoadCase.h"
+#include "omi_Singleton.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
 
@@ -13,7 +16,11 @@ uti_Guard klcGuard;
 void klcC_initialize(int& count) {
     if (!klcGuard.Raise(count)) return;
     typ_ArchCompTable::InsertEntry(klcC_component, klcC_ArchEntry());
-    // Registration of the module: extension, class metadata, old class versions.
+
+    cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
+    registrar.initClassMetadata(klcC_LoadCase::InitializeMetadata, cls_DomainsAll);
+    registrar.initClassMetadata(klcC_LoadCaseCont::InitializeMetadata,
+                                cls_DomainLibrary | cls_DomainMemory);
 }
 
 void klcC_finalize(int& count) { klcGuard.Lower(count); }

@@ -66,3 +66,6 @@ atr_String kmaC_ErrorText(kmaC_ErrorEnm code) { return nex_TextOfCode(kmaTexts, 
 void kmaC_Fail(kmaC_ErrorEnm code) {
     nex_TextException(kmaC_ErrorText(code)).Throw(kmaSource, 140);
 }
+
+mdl_Module const kmaC_Module = {"kma", [](int code) { return kmaC_ErrorText(kmaC_ErrorEnm(code)); },
+                                [](int code) { kmaC_Fail(kmaC_ErrorEnm(code)); }};
