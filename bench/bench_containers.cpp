@@ -225,7 +225,8 @@ void Trees(ratio::Table& table) {
     }
     for (Asked const& asked : all) {
         Population& p = asked.population;
-        std::vector<std::string> const fresh = MakeNames(1000, 5, "Material-%06d-b");
+        std::vector<std::string> fresh(p.askedNames.begin(), p.askedNames.begin() + 1000);
+        for (std::string& name : fresh) name += "b";
         std::vector<cow_String> const freshKeys = AsKeys(fresh);
         table.Row(
             std::string("insert one") + asked.name, 2.0,

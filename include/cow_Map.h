@@ -35,8 +35,8 @@ private:
 };
 
 // A small sorted map for the tables of primitives. Copies share everything; a write copies one
-// path. A change that fails for want of memory leaves the map as it was, since it works on a path of
-// its own.
+// path. A change that fails for want of memory leaves the map as it was, since it works on a path
+// of its own.
 template <class K, class V>
 class cow_Map {
 public:
