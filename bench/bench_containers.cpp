@@ -298,6 +298,34 @@ void Ends(ratio::Table& table, std::string const& of, T const& value) {
         n, 41);
 }
 
+template <class T>
+void SetOne(ratio::Table& table, std::string const& of, T const& value, double atMost) {
+    std::vector<T> const model(100000, value);
+    cow_List<T> list;
+    list.Fill(100000, value);
+    table.Row(
+        "set one " + of + " after a copy (against copying a vector of 100,000)", atMost,
+        [&] {
+            std::vector<cow_List<T>> copies(20);
+            return ratio::Seconds([&] {
+                for (cow_List<T>& one : copies) {
+                    one = list;
+                    one.Get(50000) = value;
+                }
+            });
+        },
+        [&] {
+            std::vector<std::vector<T>> copies(20);
+            return ratio::Seconds([&] {
+                for (std::vector<T>& one : copies) {
+                    one = model;
+                    one[50000] = value;
+                }
+            });
+        },
+        20, 41);
+}
+
 void Lists(ratio::Table& table) {
     cow_List<int> small, large;
     small.Fill(1000, 1);
@@ -316,30 +344,8 @@ void Lists(ratio::Table& table) {
     Handle const value(new Object(1));
     Ends<cow_List<int>, std::deque<int>>(table, "integers", 1);
     Ends<cow_List<Handle>, std::deque<Handle>>(table, "handles", value);
-    std::vector<int> const model(100000, 1);
-    cow_List<int> list;
-    list.Fill(100000, 1);
-    table.Row(
-        "set one after a copy (against copying a vector of 100,000)", 0.05,
-        [&] {
-            std::vector<cow_List<int>> copies(20);
-            return ratio::Seconds([&] {
-                for (cow_List<int>& one : copies) {
-                    one = list;
-                    one.Get(50000) = 2;
-                }
-            });
-        },
-        [&] {
-            std::vector<std::vector<int>> copies(20);
-            return ratio::Seconds([&] {
-                for (std::vector<int>& one : copies) {
-                    one = model;
-                    one[50000] = 2;
-                }
-            });
-        },
-        20, 41);
+    SetOne<int>(table, "integer", 1, 0.05);
+    SetOne<Handle>(table, "handle", value, 0.05);
 }
 
 }  // namespace

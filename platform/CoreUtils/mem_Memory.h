@@ -30,6 +30,8 @@ struct mem_Trio {
 };
 [[nodiscard]] mem_Trio mem_OperatorNewTrioThrow(std::size_t first, std::size_t second,
                                                 std::size_t third);
+// Releases three blocks; quicker than one by one where they came together.
+void mem_FreeTrio(mem_Trio const& trio) noexcept;
 
 // Asked at each allocation while it is set; true makes that allocation fail. Tests use it to let
 // every allocation fail once and, by answering false, to count them. Returns the former hook.
