@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
@@ -18,7 +19,7 @@ struct cow_BtreeOrder<cow_String> {
     static int Compare(cow_String const& a, cow_String const& b) noexcept {
         return atr_CompareNames(a, b);
     }
-    static void Fetch(cow_String const& key) noexcept { __builtin_prefetch(key.Text() - 8); }
+    static void Fetch(cow_String const& key) noexcept { __builtin_prefetch(key.Text()); }
 };
 
 template <class K, class V>
@@ -140,8 +141,10 @@ public:
     // what key and value point to.
     void FetchSides() const noexcept {
         for (Link const* link : side) {
-            __builtin_prefetch(link);
-            __builtin_prefetch(reinterpret_cast<char const*>(link) + 64);
+            // The link may be null; its address is only a hint here.
+            std::uintptr_t const at = reinterpret_cast<std::uintptr_t>(link);
+            __builtin_prefetch(reinterpret_cast<void const*>(at));
+            __builtin_prefetch(reinterpret_cast<void const*>(at + 64));
         }
     }
     void FetchContent() const noexcept {

@@ -22,7 +22,7 @@ void mem_Free(void* block) noexcept;
 
 // Three blocks that are used together, side by side in memory where they are small enough (16, 56
 // and 4 bytes). Each goes back through mem_Free on its own; their room is used again when all three
-// have gone.
+// have gone. Unlike other blocks, the three must not be released by several threads at one time.
 struct mem_Trio {
     void* first;
     void* second;
