@@ -86,6 +86,8 @@
 #include "omu_PrimTuple.h"
 #include "omu_PrimValues.h"
 #include "omu_Primitive.h"
+#include "omu_ShortcutBase.h"
+#include "omu_ShortcutImpl.h"
 #include "omu_TypeIds.h"
 #include "omu_ValueErrorException.h"
 
@@ -95,7 +97,18 @@
 
 #include "DiagnosticExtractor.h"
 #include "ddr_Ddb.h"
+#include "ddr_DictionaryShortcut.h"
+#include "ddr_MemberShortcut.h"
 #include "ddr_Model.h"
+#include "ddr_ModelShortcut.h"
+#include "ddr_SequenceShortcut.h"
+#include "ddr_Session.h"
+#include "ddr_Shortcut.h"
+#include "ddr_ShortcutBaseImpl.h"
+#include "ddr_ShortcutImpl.h"
+#include "ddr_ShortcutTraits.h"
+#include "ddr_StepAccess.h"
+#include "ddr_TypeIds.h"
 
 #include "kbeC_ArchEntry.h"
 #include "kbeC_assert.h"
@@ -189,9 +202,12 @@
 #include "kmaC_JouleHeatFraction.h"
 #include "kmaC_Kappa.h"
 #include "kmaC_LatentHeat.h"
+#include "kmaC_MatOptionListShortcut.h"
 #include "kmaC_Material.h"
+#include "kmaC_MaterialContainerShortcut.h"
 #include "kmaC_MaterialOption.h"
 #include "kmaC_MaterialOptionList.h"
+#include "kmaC_MaterialOptionShortcut.h"
 #include "kmaC_MaterialTable.h"
 #include "kmaC_MembraneElastic.h"
 #include "kmaC_MohrCoulomb.h"
@@ -244,6 +260,7 @@
 
 #include "klcC_ArchEntry.h"
 #include "klcC_LoadCase.h"
+#include "klcC_LoadCaseShortcut.h"
 #include "klcC_assert.h"
 #include "klcC_module.h"
 
