@@ -204,9 +204,8 @@ public:
     void* MutableObject(void* field, int index) const override { return &As(field).Get(index); }
     unsigned DynTypeIdOf(void const*) const override { return T::TypeId(); }
     void Adopt(void* field, void* object) const override {
-        T* const element = static_cast<T*>(object);
-        As(field).Append(*element);
-        cow_Destroy(element);
+        cow_Owned<T> const element(static_cast<T*>(object));
+        As(field).Append(*element.Get());
     }
     void Clear(void* field) const override { As(field).Resize(0); }
 

@@ -35,14 +35,14 @@ public:
     virtual void DBWrite(void const* object, cls_WriteVisitor const& visitor) const;
     /// Destroys and frees an object of this class. Null is allowed.
     virtual void DeleteObject(void const* object) const;
-    /// The same as a function: what a type-erased handle on such an object ends it with.
-    virtual void (*Destroyer() const)(void*);
     /// Releases a type-erased handle of this class and frees it, through AddDtor's function.
     virtual void DeleteCow(cow_HandleBase* handle) const;
     /// A new object read from a record; null where the class has no read constructor.
     virtual void* Ctor(cls_ReadVisitor const& visitor) const;
     /// Whether Ctor makes objects.
     virtual bool HasCtor() const;
+    /// DeleteObject as a function: what a type-erased handle on such an object ends it with.
+    virtual void (*Destroyer() const)(void*);
 
     /// Each returns the metadata for chaining.
     cls_ClassMetadata& AddDtor(void (*release)(cow_HandleBase*));

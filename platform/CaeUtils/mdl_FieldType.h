@@ -65,7 +65,7 @@ public:
     virtual unsigned DynTypeIdOf(void const* object) const;
     /// Takes ownership of \p object (null for none): sets an option, or appends to a list.
     virtual void Adopt(void* field, void* object) const;
-    /// The address that two owners share if they share the object: its handle's referent.
+    /// Back to absent, or to an empty list.
     virtual void Clear(void* field) const;
 
 protected:
