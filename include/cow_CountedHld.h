@@ -15,6 +15,12 @@ public:
         count = NewCount();
         referent = owned.Release();
     }
+    // With a block of its own for the count cell, made by mem_* as every cell is.
+    cow_CountedHld(T* object, int* cell) noexcept {
+        *cell = 1;
+        count = cell;
+        referent = object;
+    }
     cow_CountedHld(cow_CountedHld const&) noexcept = default;
     cow_CountedHld(cow_ShareErased, cow_HandleBase const& erased) noexcept
         : cow_HandleBase(erased) {}

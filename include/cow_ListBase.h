@@ -49,8 +49,6 @@ protected:
         if (*tableCount >= 2) DetachTable();
     }
     void ResizeTable(cow_ListElementOps const& ops, int n);
-    // Whether ResizeTable for n elements would leave the table as it is.
-    bool TableFits(int n) const noexcept { return TableLengthFor(n) == tableLength; }
     // Makes the pages from that of index a to that of b exist and be this list's own. -1 is allowed
     // where start is above 0.
     void MakeWritable(cow_ListElementOps const& ops, int a, int b);

@@ -90,8 +90,13 @@
 #include "omu_ValueErrorException.h"
 
 #include "RfmInterface.h"
+#include "rfm_Database.h"
+#include "rfm_MemoryDatabase.h"
+#include "rfm_TableMetadata.h"
+#include "rfm_Value.h"
 
 #include "ROM.h"
+#include "rom_Transporter.h"
 
 #include "DiagnosticExtractor.h"
 #include "ddr_Ddb.h"

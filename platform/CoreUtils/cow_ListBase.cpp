@@ -84,10 +84,14 @@ void cow_ListBase::Assign(cow_ListElementOps const& ops, cow_ListBase const& oth
 
 void cow_ListBase::DetachTable() {
     cow_OwnedBlock cell(NewCount());
-    cow_ListPage** const own = NewTable(tableLength);
-    for (int page = 0; page < tableLength; ++page) {
-        own[page] = table[page];
-        if (own[page]) ++own[page]->count;
+    cow_ListPage** own = nullptr;
+    if (tableLength) {
+        std::size_t const length = static_cast<std::size_t>(tableLength);
+        own = static_cast<cow_ListPage**>(mem_Malloc(length * sizeof *own));
+        for (std::size_t page = 0; page < length; ++page) {
+            own[page] = table[page];
+            if (own[page]) ++own[page]->count;
+        }
     }
     --*tableCount;
     tableCount = static_cast<int*>(cell.Release());
