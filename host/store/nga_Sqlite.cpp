@@ -21,15 +21,33 @@ constexpr int stepsPerTick = 10000;
     if ((code & 0xff) == SQLITE_NOMEM) throw std::bad_alloc();
     std::string text;
     switch (code & 0xff) {
-        case SQLITE_CORRUPT: text = "the database is damaged"; break;
-        case SQLITE_NOTADB: text = "this is no database"; break;
-        case SQLITE_FULL: text = "the disk is full"; break;
-        case SQLITE_BUSY: text = "another process has locked the database"; break;
-        case SQLITE_INTERRUPT: text = "the database is damaged: reading it takes no end"; break;
-        case SQLITE_TOOBIG: text = "the database is damaged: a value is too large"; break;
-        case SQLITE_CANTOPEN: text = "the database cannot be opened"; break;
-        case SQLITE_IOERR: text = "reading or writing the database failed"; break;
-        default: text = "the database failed"; break;
+        case SQLITE_CORRUPT:
+            text = "the database is damaged";
+            break;
+        case SQLITE_NOTADB:
+            text = "this is no database";
+            break;
+        case SQLITE_FULL:
+            text = "the disk is full";
+            break;
+        case SQLITE_BUSY:
+            text = "another process has locked the database";
+            break;
+        case SQLITE_INTERRUPT:
+            text = "the database is damaged: reading it takes no end";
+            break;
+        case SQLITE_TOOBIG:
+            text = "the database is damaged: a value is too large";
+            break;
+        case SQLITE_CANTOPEN:
+            text = "the database cannot be opened";
+            break;
+        case SQLITE_IOERR:
+            text = "reading or writing the database failed";
+            break;
+        default:
+            text = "the database failed";
+            break;
     }
     if (database && (code & 0xff) != SQLITE_INTERRUPT)
         text += std::string(" (SQLite: ") + sqlite3_errmsg(database) + ")";
@@ -63,13 +81,12 @@ void SqliteConnection::Open(std::string const& path, int flags) {
     std::string const plain = path.empty() || path[0] != '/' ? "./" + path : path;
     int const code =
         sqlite3_open_v2(plain.c_str(), &m_database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
-    if (code != SQLITE_OK) Raise(m_database, m_database ? sqlite3_extended_errcode(m_database) : code);
+    if (code != SQLITE_OK)
+        Raise(m_database, m_database ? sqlite3_extended_errcode(m_database) : code);
     sqlite3_extended_result_codes(m_database, 1);
 }
 
-void SqliteConnection::OpenForReading(std::string const& path) {
-    Open(path, SQLITE_OPEN_READONLY);
-}
+void SqliteConnection::OpenForReading(std::string const& path) { Open(path, SQLITE_OPEN_READONLY); }
 
 void SqliteConnection::OpenForWriting(std::string const& path) {
     Open(path, SQLITE_OPEN_READWRITE);
@@ -87,9 +104,12 @@ void SqliteConnection::Execute(std::string const& sql) {
 
 void SqliteConnection::Harden(long long length) {
     static constexpr int switches[][2] = {
-        {SQLITE_DBCONFIG_DEFENSIVE, 1},      {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
-        {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0}, {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
-        {SQLITE_DBCONFIG_DQS_DML, 0},        {SQLITE_DBCONFIG_DQS_DDL, 0},
+        {SQLITE_DBCONFIG_DEFENSIVE, 1},
+        {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+        {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+        {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+        {SQLITE_DBCONFIG_DQS_DML, 0},
+        {SQLITE_DBCONFIG_DQS_DDL, 0},
         {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0},
     };
     for (auto const& [option, value] : switches)
@@ -97,16 +117,17 @@ void SqliteConnection::Harden(long long length) {
     int const most = static_cast<int>(
         std::min<long long>(length, sqlite3_limit(m_database, SQLITE_LIMIT_LENGTH, -1)));
     int const limits[][2] = {
-        {SQLITE_LIMIT_LENGTH, most},          {SQLITE_LIMIT_SQL_LENGTH, 1 << 20},
-        {SQLITE_LIMIT_COLUMN, 2000},          {SQLITE_LIMIT_EXPR_DEPTH, 50},
-        {SQLITE_LIMIT_COMPOUND_SELECT, 2},    {SQLITE_LIMIT_VDBE_OP, 100000},
-        {SQLITE_LIMIT_FUNCTION_ARG, 8},       {SQLITE_LIMIT_ATTACHED, 0},
+        {SQLITE_LIMIT_LENGTH, most},           {SQLITE_LIMIT_SQL_LENGTH, 1 << 20},
+        {SQLITE_LIMIT_COLUMN, 2000},           {SQLITE_LIMIT_EXPR_DEPTH, 50},
+        {SQLITE_LIMIT_COMPOUND_SELECT, 2},     {SQLITE_LIMIT_VDBE_OP, 100000},
+        {SQLITE_LIMIT_FUNCTION_ARG, 8},        {SQLITE_LIMIT_ATTACHED, 0},
         {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 0}, {SQLITE_LIMIT_VARIABLE_NUMBER, 2000},
-        {SQLITE_LIMIT_TRIGGER_DEPTH, 1},      {SQLITE_LIMIT_WORKER_THREADS, 0},
+        {SQLITE_LIMIT_TRIGGER_DEPTH, 1},       {SQLITE_LIMIT_WORKER_THREADS, 0},
     };
     for (auto const& [limit, value] : limits) sqlite3_limit(m_database, limit, value);
-    Execute("PRAGMA mmap_size=0; PRAGMA cell_size_check=ON; PRAGMA query_only=ON;"
-            "PRAGMA temp_store=MEMORY");
+    Execute(
+        "PRAGMA mmap_size=0; PRAGMA cell_size_check=ON; PRAGMA query_only=ON;"
+        "PRAGMA temp_store=MEMORY");
 }
 
 int SqliteConnection::CountWork(void* connection) noexcept {
@@ -149,8 +170,12 @@ void SqliteStatement::Bind(int parameter, rfm_Value const& value) {
     int const place = parameter + 1;
     int code = SQLITE_OK;
     switch (value.tag) {
-        case rfm_Value::Null: code = sqlite3_bind_null(m_statement, place); break;
-        case rfm_Value::Int: code = sqlite3_bind_int64(m_statement, place, value.integer); break;
+        case rfm_Value::Null:
+            code = sqlite3_bind_null(m_statement, place);
+            break;
+        case rfm_Value::Int:
+            code = sqlite3_bind_int64(m_statement, place, value.integer);
+            break;
         case rfm_Value::Double:
             if (std::isnan(value.real)) {
                 unsigned char bytes[nanByteCount];
@@ -201,8 +226,10 @@ void SqliteStatement::Run() {
 rfm_Value SqliteStatement::Column(int column) const {
     sqlite3_value* const value = sqlite3_column_value(m_statement, column);
     switch (sqlite3_value_type(value)) {
-        case SQLITE_INTEGER: return rfm_Value::OfInt(sqlite3_value_int64(value));
-        case SQLITE_FLOAT: return rfm_Value::OfDouble(sqlite3_value_double(value));
+        case SQLITE_INTEGER:
+            return rfm_Value::OfInt(sqlite3_value_int64(value));
+        case SQLITE_FLOAT:
+            return rfm_Value::OfDouble(sqlite3_value_double(value));
         case SQLITE_TEXT: {
             auto const* letters = reinterpret_cast<char const*>(sqlite3_value_text(value));
             if (!letters) throw std::bad_alloc();
@@ -214,11 +241,14 @@ rfm_Value SqliteStatement::Column(int column) const {
             if (!bytes && length > 0) throw std::bad_alloc();
             return rfm_Value::OfBytes(bytes ? bytes : "", length);
         }
-        default: return rfm_Value();
+        default:
+            return rfm_Value();
     }
 }
 
-long long SqliteStatement::Int(int column) const { return sqlite3_column_int64(m_statement, column); }
+long long SqliteStatement::Int(int column) const {
+    return sqlite3_column_int64(m_statement, column);
+}
 
 std::string SqliteStatement::Text(int column) const {
     rfm_Value const value = Column(column);

@@ -39,13 +39,18 @@ std::string Folded(std::string name) {
 
 char const* DeclaredType(rfm_ColumnKind kind) {
     switch (kind) {
-        case rfm_ColumnKind::Int: return " INTEGER";
+        case rfm_ColumnKind::Int:
+            return " INTEGER";
         // No type: with one, SQLite would store whole numbers as integers and lose the sign of -0.
-        case rfm_ColumnKind::Double: return "";
-        case rfm_ColumnKind::Text: return " TEXT";
-        case rfm_ColumnKind::Bytes: return " BLOB";
+        case rfm_ColumnKind::Double:
+            return "";
+        case rfm_ColumnKind::Text:
+            return " TEXT";
+        case rfm_ColumnKind::Bytes:
+            return " BLOB";
         // Converts nothing, like BLOB, and yet can be told from it.
-        case rfm_ColumnKind::Key: return " KEYBLOB";
+        case rfm_ColumnKind::Key:
+            return " KEYBLOB";
     }
     return "";
 }
@@ -171,8 +176,7 @@ rfm_TableMetadata SqliteDatabase::CheckedLayout(CatalogueEntry const& entry) {
     rfm_TableMetadata own(entry.typeId, cow_String(std::string_view(entry.className)),
                           entry.version, entry.parentTypeId);
     bool numbered = false;
-    SqliteStatement columns(m_connection,
-                            "PRAGMA table_xinfo(" + SqlName(entry.tableName) + ")");
+    SqliteStatement columns(m_connection, "PRAGMA table_xinfo(" + SqlName(entry.tableName) + ")");
     while (columns.Step()) {
         std::string const name = columns.Text(1);
         if (columns.Int(6) != 0) RaiseStore(table + " has a computed column " + name, __LINE__);
@@ -232,11 +236,10 @@ rfm_Table& SqliteDatabase::CreateTable(rfm_TableMetadata const& metadata) {
     if (m_tables.count(metadata.TypeId())) RaiseStore("a table was to be made twice", __LINE__);
     return InStoreTerms([&]() -> rfm_Table& {
         CatalogueEntry entry{metadata.TypeId(), std::string(metadata.Name().View()),
-                             FreeTableName(metadata), metadata.Version(),
-                             metadata.ParentTypeId()};
+                             FreeTableName(metadata), metadata.Version(), metadata.ParentTypeId()};
         m_connection.Execute(TableSql(metadata, entry.tableName));
-        auto table =
-            std::make_unique<SqliteTable>(m_connection, metadata, entry.tableName, SqliteTable::New);
+        auto table = std::make_unique<SqliteTable>(m_connection, metadata, entry.tableName,
+                                                   SqliteTable::New);
         m_catalogue.push_back(std::move(entry));
         return *(m_tables[metadata.TypeId()] = std::move(table));
     });
@@ -270,8 +273,8 @@ void SqliteDatabase::Finish() {
         std::sort(m_catalogue.begin(), m_catalogue.end(),
                   [](auto const& a, auto const& b) { return a.typeId < b.typeId; });
         {
-            SqliteStatement insert(m_connection, "INSERT INTO " + std::string(catalogueName) +
-                                                     " VALUES(?,?,?,?,?)");
+            SqliteStatement insert(
+                m_connection, "INSERT INTO " + std::string(catalogueName) + " VALUES(?,?,?,?,?)");
             auto const add = [&insert](CatalogueEntry const& entry) {
                 insert.BindInt(0, entry.typeId);
                 insert.Bind(1, rfm_Value::OfText(entry.className.data(),

@@ -30,12 +30,6 @@ struct CatalogueEntry {
     unsigned parentTypeId = 0;
 };
 
-/// What stands in the first bytes of a file, known without reading a table.
-struct StoreHeader {
-    int applicationId = 0;
-    int schema = 0;  ///< the highest version of a class when it was written
-};
-
 /// A record store in a SQLite file: one SQL table a class, made when the class's first row comes,
 /// and a catalogue of the classes. It is either built, in one transaction that Finish ends, or
 /// read; a file that is read is never written to. Failures are raised as nex_TextException.

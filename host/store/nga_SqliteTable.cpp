@@ -1,6 +1,7 @@
 #include "nga_SqliteTable.h"
 
 #include <climits>
+#include <cmath>
 
 namespace nga {
 
@@ -45,8 +46,11 @@ public:
             return rfm_Value();
         rfm_Value const value = m_statement.Column(column + 1);
         if (value.tag == rfm_Value::Bytes && value.length == nanByteCount &&
-            m_columns[static_cast<std::size_t>(column)].kind == rfm_ColumnKind::Double)
-            return rfm_Value::OfDouble(NanFromBytes(value.bytes));
+            m_columns[static_cast<std::size_t>(column)].kind == rfm_ColumnKind::Double) {
+            double const number = NanFromBytes(value.bytes);
+            // Numbers have no second form.
+            if (std::isnan(number)) return rfm_Value::OfDouble(number);
+        }
         return value;
     }
 
@@ -139,8 +143,8 @@ void SqliteTable::Replace(int oid, rfm_Value const* values) {
         std::size_t const columns = m_metadata.Columns().size();
         std::string marks = std::to_string(oid);
         for (std::size_t i = 0; i < columns; ++i) marks += ",?";
-        SqliteStatement replace(m_connection, "REPLACE INTO " + SqlName(m_sqlTable) + " VALUES(" +
-                                                  marks + ")");
+        SqliteStatement replace(m_connection,
+                                "REPLACE INTO " + SqlName(m_sqlTable) + " VALUES(" + marks + ")");
         std::vector<bool> bound(columns);
         BindRow(replace, bound, values);
         replace.Run();
@@ -166,8 +170,7 @@ std::unique_ptr<rfm_Cursor> SqliteTable::OpenCursor() {
     });
 }
 
-int SqliteTable::FindRow(int intColumn, long long integer, int textColumn,
-                         cow_String const& text) {
+int SqliteTable::FindRow(int intColumn, long long integer, int textColumn, cow_String const& text) {
     return InStoreTerms([&] {
         if (!m_find || m_findColumns[0] != intColumn || m_findColumns[1] != textColumn) {
             std::vector<rfm_Column> const& columns = m_metadata.Columns();
@@ -175,11 +178,10 @@ int SqliteTable::FindRow(int intColumn, long long integer, int textColumn,
                 return SqlName(columns.at(static_cast<std::size_t>(column)).name.View());
             };
             std::string const number = SqlName(rowNumberColumn);
-            m_find = SqliteStatement(m_connection, "SELECT " + number + " FROM " +
-                                                       SqlName(m_sqlTable) + " WHERE " +
-                                                       name(intColumn) + "=? AND " +
-                                                       name(textColumn) + "=? ORDER BY " + number +
-                                                       " LIMIT 1");
+            m_find = SqliteStatement(
+                m_connection, "SELECT " + number + " FROM " + SqlName(m_sqlTable) + " WHERE " +
+                                  name(intColumn) + "=? AND " + name(textColumn) + "=? ORDER BY " +
+                                  number + " LIMIT 1");
             m_findColumns[0] = intColumn;
             m_findColumns[1] = textColumn;
         }
