@@ -218,20 +218,6 @@ private:
     }
 };
 
-template <unsigned typeId>
-class mdl_PendingField final : public mdl_FieldType {
-public:
-    constexpr mdl_PendingField()
-        : mdl_FieldType(mdl_FieldKind::Pending, cls_AttributeObject, cls_CollectionNone) {}
-    unsigned Arg() const override { return typeId; }
-    void Write(void const*, cls_WriteVisitor const& visitor,
-               cls_FieldHandle const& handle) const override {
-        visitor.Agent().WriteNull(handle);
-    }
-    void Read(void*, cls_ReadVisitor const&, cls_FieldHandle const&) const override {}
-    bool Same(void const*, void const*) const override { return true; }
-};
-
 // ---- the operations of a C++ type ------------------------------------------------------------
 
 template <class T>
@@ -299,10 +285,6 @@ struct mdl_FieldTypeOf<mdl_1DArrayList<V, T>> {
 template <class T>
 struct mdl_FieldTypeOf<cls_xo1DArrayList<T>> {
     static constexpr mdl_ObjectListField<T> type{};
-};
-template <unsigned typeId>
-struct mdl_FieldTypeOf<mdl_Pending<typeId>> {
-    static constexpr mdl_PendingField<typeId> type{};
 };
 
 template <class T>

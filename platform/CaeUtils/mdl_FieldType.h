@@ -20,8 +20,7 @@ enum class mdl_FieldKind {
     IntList,     ///< cls_xp1DArrayListInt
     DoubleList,  ///< cls_xp1DArrayListDouble
     FloatMap,    ///< cls_xpMapString2Float
-    Array,       ///< cls_xp2DArrayDouble
-    Pending      ///< a registered attribute whose class holds no data here
+    Array        ///< cls_xp2DArrayDouble
 };
 
 /// The operations of one type of field: one immortal instance a C++ type, not one a field. The

@@ -42,6 +42,10 @@ public:
     virtual unsigned DynTypeId() const;
     virtual void DBWrite(cls_WriteVisitor const& visitor) const;
 
+    /// A word that the scripting layer may mark a value with; copies take it along.
+    unsigned State() const { return m_state; }
+    void SetState(unsigned state) { m_state = state; }
+
     static unsigned TypeId();
 
 private:

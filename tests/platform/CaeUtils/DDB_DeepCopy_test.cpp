@@ -27,8 +27,7 @@ TEST_F(DeepCopy, HoldsTheSameContentUnderNewIdentities) {
     elastic->failStress = new kmaC_FailStress;
     material.elastic = elastic;
 
-    std::unique_ptr<kmaC_Material> const copy(
-        DDB_DeepCopyPtr(&material, material.DynTypeId()));
+    std::unique_ptr<kmaC_Material> const copy(DDB_DeepCopyPtr(&material, material.DynTypeId()));
 
     EXPECT_TRUE(kmaC_Material::Description().Same(&material, copy.get()));
     EXPECT_NE(copy->uid, material.uid);

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <map>
+
+#include "rfm_Database.h"
+
+/// A record store in memory: for tests, for data on its way, and as the plainest implementation of
+/// the interface.
+class rfm_MemoryDatabase : public rfm_Database {
+public:
+    rfm_MemoryDatabase();
+    ~rfm_MemoryDatabase() override;
+    rfm_Table* FindTable(unsigned typeId) override;
+    rfm_Table& CreateTable(rfm_TableMetadata const& metadata) override;
+    std::vector<rfm_Table*> Tables() override;
+
+private:
+    std::map<unsigned, std::unique_ptr<rfm_Table>> m_tables;
+};
