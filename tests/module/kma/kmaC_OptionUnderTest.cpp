@@ -140,6 +140,16 @@ int CodeOf(std::string const& text) {
     throw std::logic_error("raised by no code: " + text);
 }
 
+template <class T>
+int CodeRaisedBy(T const& object) {
+    try {
+        object.AssertValid();
+    } catch (nex_TextException const& failure) {
+        return CodeOf(failure.UserReport().Text());
+    }
+    return passes;
+}
+
 }  // namespace
 
 Option::Option(std::string const& className)
@@ -162,12 +172,7 @@ Option& Option::Set(std::string const& settings) {
 }
 
 int Option::Verdict() const {
-    try {
-        static_cast<kmaC_MaterialOption const*>(m_object)->AssertValid();
-    } catch (nex_TextException const& failure) {
-        return CodeOf(failure.UserReport().Text());
-    }
-    return passes;
+    return CodeRaisedBy(*static_cast<kmaC_MaterialOption const*>(m_object));
 }
 
 std::string Option::Asked() const {
@@ -179,6 +184,8 @@ std::string Option::Asked() const {
 int VerdictOf(std::string const& className, std::string const& settings) {
     return Option(className).Set(settings).Verdict();
 }
+
+int VerdictOf(kmaC_Material const& material) { return CodeRaisedBy(material); }
 
 std::vector<std::string> Split(std::string const& text, char separator) {
     std::vector<std::string> parts;

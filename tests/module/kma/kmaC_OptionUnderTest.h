@@ -49,6 +49,8 @@ private:
 
 /// What a new option of that class says once the settings are in place.
 int VerdictOf(std::string const& className, std::string const& settings = "");
+/// The same of a whole material.
+int VerdictOf(kmaC_Material const& material);
 
 std::vector<std::string> Split(std::string const& text, char separator);
 

@@ -1,4 +1,4 @@
-#include <map>
+#include <iterator>
 #include <set>
 
 #include "kmaC_OptionUnderTest.h"
@@ -231,6 +231,108 @@ TEST_F(MaterialRules, AMemberThatIsAbsentHasNothingToAsk) {
             EXPECT_EQ(asked.find(field.Name()), std::string::npos) << Describe(line);
         }
     }
+}
+
+char const* const walk[] = {
+    "acousticMedium",
+    "capPlasticity",
+    "clayPlasticity",
+    "concrete",
+    "conductivity",
+    "creep",
+    "damping",
+    "deformationPlasticity",
+    "density",
+    "depvar",
+    "dielectric",
+    "diffusivity",
+    "druckerPrager",
+    "elastic",
+    "electricalConductivity",
+    "eos",
+    "expansion",
+    "foam",
+    "gel",
+    "heatGeneration",
+    "hyperelastic",
+    "hyperfoam",
+    "hypoelastic",
+    "inelasticHeatFraction",
+    "jouleHeatFraction",
+    "latentHeat",
+    "regularization",
+    "membraneElastic",
+    "moistureSwelling",
+    "permeability",
+    "piezoelectric",
+    "plastic",
+    "poreFluidExpansion",
+    "porousBulkModuli",
+    "porousElastic",
+    "porousMetalPlasticity",
+    "solubility",
+    "sorption",
+    "specificHeat",
+    "swelling",
+    "thicknessBehavior",
+    "transShearElastic",
+    "userDefinedField",
+    "userMaterial",
+    "userOutputVariables",
+    "viscoelastic",
+    "viscous",
+    "castIronPlasticity",
+    "mohrCoulomb",
+    "concreteDamagedPlasticity",
+    "mullinsEffect",
+};
+
+TEST_F(MaterialRules, AMaterialAsks51OfItsOptionsInAnOrderOfItsOwn) {
+    Option material("kmaC_Material");
+    int options = 0;
+    for (mdl_Field const& field : material.Description().Fields()) {
+        if (field.Type().Kind() != mdl_FieldKind::Option) continue;
+        ++options;
+        material.Set(std::string(field.Name()) + "=new");
+    }
+    EXPECT_EQ(options, 66);
+    std::string expected;
+    for (char const* name : walk) expected += (expected.empty() ? "" : " ") + std::string(name);
+    EXPECT_EQ(std::size(walk), 51u);
+    EXPECT_EQ(material.Asked(), expected);
+}
+
+TEST_F(MaterialRules, AMaterialFailsWithTheFirstOptionOfTheWalk) {
+    // Each of these raises a code of its own; they are given against their order in the walk.
+    kmaC_Material material;
+    material.mullinsEffect = new kmaC_MullinsEffect;
+    EXPECT_EQ(kmaC_test::VerdictOf(material), 44);
+    material.thicknessBehavior = new kmaC_ThicknessBehavior;
+    EXPECT_EQ(kmaC_test::VerdictOf(material), 29);
+    material.plastic = new kmaC_Plastic;
+    EXPECT_EQ(kmaC_test::VerdictOf(material), 37);
+    material.elastic = new kmaC_Elastic;
+    material.elastic.Get().noCompression = material.elastic.Get().noTension = true;
+    EXPECT_EQ(kmaC_test::VerdictOf(material), 34);
+    material.depvar = new kmaC_Depvar;
+    material.depvar.Get().n = -1;
+    EXPECT_EQ(kmaC_test::VerdictOf(material), 17);
+}
+
+TEST_F(MaterialRules, ACopyOfAMaterialSharesAllItsOptions) {
+    Option material("kmaC_Material");
+    for (mdl_Field const& field : material.Description().Fields())
+        if (field.Type().Kind() == mdl_FieldKind::Option)
+            material.Set(std::string(field.Name()) + "=new");
+    auto const& source = *static_cast<kmaC_Material const*>(material.Address());
+    kmaC_Material const copy(source);
+    for (mdl_Field const& field : material.Description().Fields()) {
+        if (field.Type().Kind() != mdl_FieldKind::Option) continue;
+        void const* const shared = field.Type().ConstObject(field.At(&source), 0);
+        EXPECT_NE(shared, nullptr) << field.Name();
+        EXPECT_EQ(field.Type().ConstObject(field.At(&copy), 0), shared) << field.Name();
+    }
+    EXPECT_EQ(copy.uid, source.uid);
 }
 
 }  // namespace kmaC_rules_test
