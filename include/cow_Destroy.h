@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -16,7 +17,8 @@ struct cow_Destroyer {
         if constexpr (std::has_virtual_destructor_v<T>) {
             delete object;
         } else {
-            object->~T();
+            // Not the plain call: compilers warn of it in a class with virtual operations.
+            std::destroy_at(object);
             mem_Free(object);
         }
     }
