@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -17,8 +16,8 @@ struct cow_Destroyer {
         if constexpr (std::has_virtual_destructor_v<T>) {
             delete object;
         } else {
-            // Not the plain call: compilers warn of it in a class with virtual operations.
-            std::destroy_at(object);
+            // Qualified, which says that the object is a T and of no class derived from it.
+            if constexpr (std::is_class_v<T>) object->T::~T();
             mem_Free(object);
         }
     }

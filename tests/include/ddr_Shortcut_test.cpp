@@ -44,10 +44,10 @@ TEST_F(Shortcut, OnesOfDifferentClassesAreComparedByTheirPathsToo) {
 
 TEST_F(Shortcut, TheThreeAnswersOfAStepAreConstant) {
     kmaC_MaterialOptionShortcut const option = ToOption("steel", "elastic");
-    for (omu_ShortcutImpl const* step :
-         {static_cast<omu_ShortcutImpl const*>(option.StepHandle().GetPtr()),
-          static_cast<omu_ShortcutImpl const*>(ToMaterials().StepHandle().GetPtr())}) {
-        if (step == nullptr) continue;
+    kmaC_MaterialContainerShortcut const materials = ToMaterials();
+    omu_ShortcutImpl const* const steps[] = {option.StepHandle().GetPtr(),
+                                             materials.StepHandle().GetPtr()};
+    for (omu_ShortcutImpl const* step : steps) {
         EXPECT_FALSE(step->HoldsReference());
         EXPECT_TRUE(step->IsPersistent());
         EXPECT_FALSE(step->CachesTarget());
