@@ -19,6 +19,7 @@ endif()
 if(result EQUAL 0)
   message(FATAL_ERROR "the mistake compiles")
 endif()
+string(REPLACE ";" "," output "${output}")  # a list ends its items there
 string(REGEX MATCHALL "[^\n]* error: [^\n]*" errors "${output}")
 list(LENGTH errors count)
 if(NOT count EQUAL 1)
