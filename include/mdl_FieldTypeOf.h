@@ -274,20 +274,22 @@ template <mdl_DescribedObject T>
 struct mdl_FieldTypeOf<T> {
     static constexpr mdl_ObjectField<T> type{};
 };
-template <class T, class P>
+template <mdl_DescribedObject T, class P>
 struct mdl_FieldTypeOf<cow_ArrayCOW<T, P>> {
     static constexpr mdl_OptionField<cow_ArrayCOW<T, P>, T> type{};
 };
-template <class V, class T>
+template <class V, mdl_DescribedObject T>
 struct mdl_FieldTypeOf<mdl_1DArrayList<V, T>> {
     static constexpr mdl_OptionListField<mdl_1DArrayList<V, T>, V, T> type{};
 };
-template <class T>
+template <mdl_DescribedObject T>
 struct mdl_FieldTypeOf<cls_xo1DArrayList<T>> {
     static constexpr mdl_ObjectListField<T> type{};
 };
 
+/// Asks for the specialisation alone, not for its instance: within a class, where a field's line
+/// asks, the literals of the class's own enumerations are not yet to be had.
 template <class T>
 concept mdl_DescribableField = requires {
-    mdl_FieldTypeOf<T>::type;
+    sizeof(mdl_FieldTypeOf<T>);
 };
