@@ -33,17 +33,9 @@ TEST_F(StoredModel, HasTheSameRowsWhenItIsSavedAgain) {
     nga::SaveModel(*nga::LoadModel(folder.File("a.nga")), folder.File("b.nga"));
     for (std::string const table : {"kmaC_Material", "kmaC_MaterialTable", "kmaC_Elastic",
                                     "kmaC_Density", "kmaC_Expansion", "cls_List", "cls_MapEntry"}) {
-        std::string const names = SqlText(folder.File("a.nga"),
-                                          "SELECT group_concat(quote(name),',') FROM "
-                                          "pragma_table_info('" +
-                                              table + "')");
-        std::string columns;
-        for (char const letter : names) columns += letter == '\'' ? '"' : letter;
-        std::string quoted = "quote(" + columns + ")";
-        for (std::size_t at = 0; (at = quoted.find("\",\"", at)) != std::string::npos; at += 3)
-            quoted.replace(at, 3, "\")||','||quote(\"");
-        std::string const select = "SELECT " + quoted + " FROM " + table;
-        EXPECT_EQ(SqlText(folder.File("a.nga"), select), SqlText(folder.File("b.nga"), select));
+        auto const rows = SqlRows(folder.File("a.nga"), table);
+        EXPECT_GE(rows.size(), 20u) << table;
+        EXPECT_TRUE(rows == SqlRows(folder.File("b.nga"), table)) << table;
     }
 }
 
