@@ -204,7 +204,7 @@ void Trees(ratio::Table& table) {
         [&] { return CopyAndChange(hundredThousand, 500, ours); },
         [&] { return LookUpSome(hundredThousand, 500, peer); }, 500, 61);
     table.Row(
-        "the same with the end of the copy", 99,
+        "the same with the end of the copy", ratio::forInformation,
         [&] { return CopyChangeAndDrop(hundredThousand, 500, dropped); },
         [&] { return LookUpSome(hundredThousand, 500, peer); }, 500, 61);
     struct Asked {
@@ -264,10 +264,11 @@ void Trees(ratio::Table& table) {
 }
 
 template <class List, class Model, class T>
-void Ends(ratio::Table& table, std::string const& of, T const& value) {
+void Ends(ratio::Table& table, std::string const& of, T const& value, double append,
+          double prepend) {
     int const n = 100000;
     table.Row(
-        "append 100,000 " + of + " (against std::vector)", 2.0,
+        "append 100,000 " + of + " (against std::vector)", append,
         [&] {
             List list;
             return ratio::Seconds([&] {
@@ -282,7 +283,7 @@ void Ends(ratio::Table& table, std::string const& of, T const& value) {
         },
         n, 41);
     table.Row(
-        "prepend 100,000 " + of + " (against std::deque)", 2.3,
+        "prepend 100,000 " + of + " (against std::deque)", prepend,
         [&] {
             List list;
             return ratio::Seconds([&] {
@@ -296,6 +297,34 @@ void Ends(ratio::Table& table, std::string const& of, T const& value) {
             });
         },
         n, 41);
+}
+
+template <class T>
+void SetOne(ratio::Table& table, std::string const& of, T const& value, double atMost) {
+    std::vector<T> const model(100000, value);
+    cow_List<T> list;
+    list.Fill(100000, value);
+    table.Row(
+        "set one " + of + " after a copy (against copying a vector of 100,000)", atMost,
+        [&] {
+            std::vector<cow_List<T>> copies(20);
+            return ratio::Seconds([&] {
+                for (cow_List<T>& one : copies) {
+                    one = list;
+                    one.Get(50000) = value;
+                }
+            });
+        },
+        [&] {
+            std::vector<std::vector<T>> copies(20);
+            return ratio::Seconds([&] {
+                for (std::vector<T>& one : copies) {
+                    one = model;
+                    one[50000] = value;
+                }
+            });
+        },
+        20, 41);
 }
 
 void Lists(ratio::Table& table) {
@@ -314,32 +343,11 @@ void Lists(ratio::Table& table) {
         "copy a list of 1,000,000 (against one of 1,000)", 1.5, [&] { return copy(large); },
         [&] { return copy(small); }, 20000, 31);
     Handle const value(new Object(1));
-    Ends<cow_List<int>, std::deque<int>>(table, "integers", 1);
-    Ends<cow_List<Handle>, std::deque<Handle>>(table, "handles", value);
-    std::vector<int> const model(100000, 1);
-    cow_List<int> list;
-    list.Fill(100000, 1);
-    table.Row(
-        "set one after a copy (against copying a vector of 100,000)", 0.05,
-        [&] {
-            std::vector<cow_List<int>> copies(20);
-            return ratio::Seconds([&] {
-                for (cow_List<int>& one : copies) {
-                    one = list;
-                    one.Get(50000) = 2;
-                }
-            });
-        },
-        [&] {
-            std::vector<std::vector<int>> copies(20);
-            return ratio::Seconds([&] {
-                for (std::vector<int>& one : copies) {
-                    one = model;
-                    one[50000] = 2;
-                }
-            });
-        },
-        20, 41);
+    Ends<cow_List<int>, std::deque<int>>(table, "integers", 1, ratio::forInformation,
+                                         ratio::forInformation);
+    Ends<cow_List<Handle>, std::deque<Handle>>(table, "handles", value, 2.0, 2.3);
+    SetOne<int>(table, "integer", 1, ratio::forInformation);
+    SetOne<Handle>(table, "handle", value, 0.05);
 }
 
 }  // namespace

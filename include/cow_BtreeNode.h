@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <type_traits>
 #include <utility>
 
 #include "atr_NaturalOrder.h"
@@ -10,12 +12,14 @@
 template <class K>
 struct cow_BtreeOrder {
     static int Compare(K const& a, K const& b) noexcept { return a < b ? -1 : b < a ? 1 : 0; }
+    static void Fetch(K const&) noexcept {}
 };
 template <>
 struct cow_BtreeOrder<cow_String> {
     static int Compare(cow_String const& a, cow_String const& b) noexcept {
         return atr_CompareNames(a, b);
     }
+    static void Fetch(cow_String const& key) noexcept { __builtin_prefetch(key.Text()); }
 };
 
 template <class K, class V>
@@ -45,6 +49,7 @@ public:
     cow_BtreeNode& operator=(cow_BtreeNode const&) = delete;
     ~cow_BtreeNode() {
         FetchSides();
+        FetchContent();
         ReleaseLink(side[0]);
         ReleaseLink(side[1]);
     }
@@ -132,6 +137,21 @@ public:
         return risen;
     }
 
+    // Ask for memory early: for that of both children, of which one or both are read next, and for
+    // what key and value point to.
+    void FetchSides() const noexcept {
+        for (Link const* link : side) {
+            // The link may be null; its address is only a hint here.
+            std::uintptr_t const at = reinterpret_cast<std::uintptr_t>(link);
+            __builtin_prefetch(reinterpret_cast<void const*>(at));
+            __builtin_prefetch(reinterpret_cast<void const*>(at + 64));
+        }
+    }
+    void FetchContent() const noexcept {
+        cow_BtreeOrder<K>::Fetch(key);
+        if constexpr (std::is_base_of_v<cow_HandleBase, V>) __builtin_prefetch(value.CountCell());
+    }
+
     K const& Key() const noexcept { return key; }
     V const& Value() const noexcept { return value; }
     V& Value() noexcept { return value; }
@@ -154,6 +174,13 @@ public:
     }
     static void ReleaseLink(Link* link) noexcept {
         if (!link) return;
+        if (link->Count() == 1) {
+            cow_BtreeNode* const node = link->GetPtr();
+            int* const cell = link->ReleaseWords();
+            node->~cow_BtreeNode();
+            mem_FreeTrio(mem_Trio{link, node, cell});
+            return;
+        }
         link->~Link();
         mem_Free(link);
     }
@@ -177,14 +204,6 @@ private:
         int const fromRight = side[1] ? side[1]->GetPtr()->height + 1 : 0;
         height = fromLeft > fromRight ? fromLeft : fromRight;
     }
-    // Asks for the memory of both children early: what is read next is one of them, or both.
-    void FetchSides() const noexcept {
-        for (Link const* link : side) {
-            __builtin_prefetch(link);
-            __builtin_prefetch(reinterpret_cast<char const*>(link) + 64);
-        }
-    }
-
     // The link to stand in this node's place: its one child, or the smallest node of its right
     // side, already joined to both sides. All detaching comes before the first change.
     Link* TakeReplacement() {

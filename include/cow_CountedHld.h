@@ -59,6 +59,13 @@ public:
 
     void Swap(cow_CountedHld& other) noexcept { this->SwapWords(other); }
 
+    // Leaves the handle without words, for one who ends object and cell himself: the only thing the
+    // handle may still do is to be forgotten. Gives the cell.
+    int* ReleaseWords() noexcept {
+        referent = nullptr;
+        return std::exchange(count, nullptr);
+    }
+
     // A reference to null where there is no object: callers who cannot know ask GetPtr().
     T const& GetRef() const noexcept { return *GetPtr(); }
     T* GetPtr() const noexcept { return static_cast<T*>(referent); }

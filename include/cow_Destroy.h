@@ -16,7 +16,7 @@ struct cow_Destroyer {
         if constexpr (std::has_virtual_destructor_v<T>) {
             delete object;
         } else {
-            object->~T();
+            object->T::~T();
             mem_Free(object);
         }
     }

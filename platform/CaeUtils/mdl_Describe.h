@@ -137,10 +137,16 @@ public:                                                            \
 
 /// A field whose script name differs from its schema name.
 #define DD_FIELD_AS(Type, name, script, ...)                                         \
-    Type name{__VA_ARGS__};                                                          \
     static constexpr omn_FixedString name##Cmd() { return omn_FixedString(script); } \
-    static constexpr mdl_FieldRow ddRow(mdl_RowIndex<__COUNTER__ - ddFirst - 1>) {   \
-        return mdl_MakeRow<Type>(#name, script, offsetof(ddSelf, name));             \
+    DD_MEMBER(Type, name, script, __VA_ARGS__)
+
+/// A field of a class that scripts do not know: there is no nameCmd().
+#define DD_FIELD_UNSCRIPTED(Type, name, ...) DD_MEMBER(Type, name, #name, __VA_ARGS__)
+
+#define DD_MEMBER(Type, name, script, ...)                                         \
+    Type name{__VA_ARGS__};                                                        \
+    static constexpr mdl_FieldRow ddRow(mdl_RowIndex<__COUNTER__ - ddFirst - 1>) { \
+        return mdl_MakeRow<Type>(#name, script, offsetof(ddSelf, name));           \
     }
 
 /// An optional object, absent by default. Held directly: its static class is its class.
@@ -149,9 +155,9 @@ public:                                                            \
     using name##Handle = cow_ArrayCOW<Held, cow_Direct<Held>>; \
     DD_FIELD_AS(name##Handle, name, script)
 
-/// An option member whose class has no description yet: registered by number, always absent.
-#define DD_PENDING(id, name) DD_PENDING_AS(id, name, #name)
-#define DD_PENDING_AS(id, name, script) DD_FIELD_AS(mdl_Pending<id>, name, script)
+#define DD_OPTION_UNSCRIPTED(Held, name)                       \
+    using name##Handle = cow_ArrayCOW<Held, cow_Direct<Held>>; \
+    DD_FIELD_UNSCRIPTED(name##Handle, name)
 
 /// Ends the fields with the object's own identity.
 #define DD_END                                    \

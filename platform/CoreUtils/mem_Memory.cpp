@@ -244,6 +244,13 @@ std::size_t CapacityOf(void* block) {
     return threadCache != nullptr;
 }
 
+inline void Put(void* block, std::size_t sizeClass) {
+    FreeBlock* const freed = static_cast<FreeBlock*>(block);
+    FreeBlock*& head = threadCache->free[sizeClass];
+    freed->next = head;
+    head = freed;
+}
+
 inline void PoolFree(void* block) {
     if (!threadCache && !EnsureCache()) return;
     std::size_t const sizeClass = ClassOfBlock(block);
@@ -252,10 +259,7 @@ inline void PoolFree(void* block) {
         if (--cell->inUse != 0) return;
         block = cell;
     }
-    FreeBlock* const freed = static_cast<FreeBlock*>(block);
-    FreeBlock*& head = threadCache->free[sizeClass];
-    freed->next = head;
-    head = freed;
+    Put(block, sizeClass);
 }
 
 inline void* Allocate(std::size_t size) {
@@ -341,6 +345,21 @@ void mem_Free(void* block) noexcept {
     }
 #endif
     std::free(block);
+}
+
+void mem_FreeTrio(mem_Trio const& trio) noexcept {
+#if MEM_POOLED
+    if (IsPooled(trio.first) && ClassOfBlock(trio.first) == trioClass && threadCache) {
+        TrioCell* const cell = static_cast<TrioCell*>(trio.first);
+        if (trio.second == cell->second && trio.third == cell->third) {
+            Put(cell, trioClass);
+            return;
+        }
+    }
+#endif
+    mem_Free(trio.first);
+    mem_Free(trio.second);
+    mem_Free(trio.third);
 }
 
 mem_FailureHook mem_SetFailureHook(mem_FailureHook hook) noexcept {

@@ -22,7 +22,7 @@ void mem_Free(void* block) noexcept;
 
 // Three blocks that are used together, side by side in memory where they are small enough (16, 56
 // and 4 bytes). Each goes back through mem_Free on its own; their room is used again when all three
-// have gone.
+// have gone. Unlike other blocks, the three must not be released by several threads at one time.
 struct mem_Trio {
     void* first;
     void* second;
@@ -30,6 +30,8 @@ struct mem_Trio {
 };
 [[nodiscard]] mem_Trio mem_OperatorNewTrioThrow(std::size_t first, std::size_t second,
                                                 std::size_t third);
+// Releases three blocks; quicker than one by one where they came together.
+void mem_FreeTrio(mem_Trio const& trio) noexcept;
 
 // Asked at each allocation while it is set; true makes that allocation fail. Tests use it to let
 // every allocation fail once and, by answering false, to count them. Returns the former hook.

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <utility>
 
 #include "cow_ErasedHandle.h"
@@ -260,6 +261,24 @@ TEST_F(CowHandle, AnErasedHandleEndsAnObjectThatNobodyTook) {
         EXPECT_EQ(Tracked::alive, before);
     }
 }
+
+#ifdef NGA_COUNT_DETACHES
+TEST_F(CowHandle, DetachesAreCountedByThePlaceThatAsked) {
+    Direct first(new Tracked(3));
+    Direct const second(first);
+    cow_DetachCounter::Clear();
+    first.Get().Set(1);
+    first.Get().Set(2);
+    EXPECT_EQ(cow_DetachCounter::Total(), 1);
+    std::FILE* const report = std::tmpfile();
+    cow_DetachCounter::Report(report);
+    std::rewind(report);
+    char line[512] = {};
+    EXPECT_NE(std::fgets(line, sizeof line, report), nullptr);
+    EXPECT_NE(std::strstr(line, "cow_Handle_test.cpp:"), nullptr);
+    std::fclose(report);
+}
+#endif
 
 TEST_F(CowHandle, AFailedDetachLeavesTheHandleAsItWas) {
     int const failures = FailEachAllocation(

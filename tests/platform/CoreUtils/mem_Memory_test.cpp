@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -40,7 +41,7 @@ TEST(Memory, BlocksAreApartAlignedAndKeepTheirBytes) {
     std::vector<Block> blocks;
     for (int step = 0; step < 20000; ++step) {
         if (blocks.empty() || random() % 5 < 3) {
-            std::size_t const size = random() % (random() % 10 == 0 ? 5000 : 600);
+            std::size_t const size = random() % (random() % 10 == 0 ? 200000 : 600);
             void* at = nullptr;
             switch (random() % 4) {
                 case 0:
@@ -88,6 +89,66 @@ TEST(Memory, ReallocKeepsTheContentsThroughAllSizes) {
         held = size;
     }
     mem_Free(block);
+}
+
+TEST(Memory, ThreeBlocksTakenTogetherGoBackOneByOneOrTogether) {
+    struct Sizes {
+        std::size_t first, second, third;
+    };
+    std::mt19937 random(5);
+    for (Sizes const sizes : {Sizes{16, 56, 4}, Sizes{16, 48, 4}, Sizes{16, 200, 4}}) {
+        std::vector<unsigned char*> blocks;
+        std::vector<std::size_t> lengths;
+        auto const take = [&] {
+            mem_Trio const trio = mem_OperatorNewTrioThrow(sizes.first, sizes.second, sizes.third);
+            void* const parts[] = {trio.first, trio.second, trio.third};
+            std::size_t const lengthOf[] = {sizes.first, sizes.second, sizes.third};
+            for (int part = 0; part < 3; ++part) {
+                ASSERT_EQ(reinterpret_cast<std::uintptr_t>(parts[part]) % 8, 0u);
+                std::memset(parts[part], static_cast<int>(blocks.size() % 251), lengthOf[part]);
+                blocks.push_back(static_cast<unsigned char*>(parts[part]));
+                lengths.push_back(lengthOf[part]);
+            }
+        };
+        for (int i = 0; i < 3000; ++i) take();
+        auto const check = [&](std::size_t i) {
+            for (std::size_t k = 1; k < lengths[i]; ++k) ASSERT_EQ(blocks[i][k], blocks[i][0]);
+        };
+        for (std::size_t i = 0; i < blocks.size(); ++i) ASSERT_NO_FATAL_FAILURE(check(i));
+        std::vector<std::size_t> order(blocks.size());
+        for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+        std::shuffle(order.begin(), order.end(), random);
+        for (std::size_t i = 0; i < order.size() / 2; ++i) {
+            mem_Free(blocks[order[i]]);
+            blocks[order[i]] = nullptr;
+        }
+        for (int i = 0; i < 1000; ++i) take();
+        for (std::size_t i = 0; i < blocks.size(); ++i) {
+            if (blocks[i]) {
+                ASSERT_NO_FATAL_FAILURE(check(i));
+            }
+        }
+        for (unsigned char* block : blocks) mem_Free(block);
+        for (int i = 0; i < 3000; ++i) {
+            mem_FreeTrio(mem_OperatorNewTrioThrow(sizes.first, sizes.second, sizes.third));
+        }
+        mem_Trio const a = mem_OperatorNewTrioThrow(sizes.first, sizes.second, sizes.third);
+        mem_Trio const b = mem_OperatorNewTrioThrow(sizes.first, sizes.second, sizes.third);
+        mem_FreeTrio(mem_Trio{a.first, b.second, a.third});
+        mem_FreeTrio(mem_Trio{b.first, a.second, b.third});
+    }
+}
+
+TEST(Memory, AFailureAmongThreeBlocksTakesNone) {
+    static int left = 0;
+    for (int succeed = 0; succeed < 3; ++succeed) {
+        left = succeed;
+        mem_SetFailureHook([](std::size_t) { return left-- == 0; });
+        EXPECT_THROW(static_cast<void>(mem_OperatorNewTrioThrow(16, 300, 4)), std::bad_alloc);
+        left = succeed;
+        EXPECT_THROW(static_cast<void>(mem_OperatorNewTrioThrow(16, 56, 4)), std::bad_alloc);
+        mem_SetFailureHook(nullptr);
+    }
 }
 
 TEST(Memory, FreeingNothingIsAllowed) { mem_Free(nullptr); }

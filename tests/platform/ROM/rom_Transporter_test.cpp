@@ -14,8 +14,7 @@ class Transporter : public testing::Test {
 protected:
     void SetUp() override {
         DDB_NonGeometricAttributes_initialize(m_count);
-        m_registrar =
-            &omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
+        m_registrar = &omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
     }
     void TearDown() override { DDB_NonGeometricAttributes_finalize(m_count); }
 
@@ -55,8 +54,8 @@ protected:
             if (cell.tag == rfm_Value::Text)
                 cell.text = kept.emplace_back(cell.text, cell.length).c_str();
             else if (cell.tag == rfm_Value::Bytes)
-                cell.bytes = kept.emplace_back(static_cast<char const*>(cell.bytes), cell.length)
-                                 .c_str();
+                cell.bytes =
+                    kept.emplace_back(static_cast<char const*>(cell.bytes), cell.length).c_str();
         }
         table.Replace(oid, row.data());
     }
@@ -112,13 +111,13 @@ TEST_F(Transporter, ReadsOneElementOfAMapByItsKeyAlone) {
     kmaC_MCWrapper const wrapper(repository);
     rom_Transporter(m_database, *m_registrar).Write(&wrapper, wrapper.DynTypeId());
     rom_Transporter in(m_database, *m_registrar);
-    cow_ErasedHandle const found = in.ReadMapElement(kmaC_MCWrapper::TypeId(), 0, "extension",
-                                                     "m17", kmaC_Material::TypeId());
+    cow_ErasedHandle const found =
+        in.ReadMapElement(kmaC_MCWrapper::TypeId(), 0, "extension", "m17", kmaC_Material::TypeId());
     ASSERT_FALSE(found.IsNull());
     EXPECT_EQ(static_cast<kmaC_Material const*>(found.ErasedReferent())->description, "17");
-    EXPECT_TRUE(in.ReadMapElement(kmaC_MCWrapper::TypeId(), 0, "extension", "m20",
-                                  kmaC_Material::TypeId())
-                    .IsNull());
+    EXPECT_TRUE(
+        in.ReadMapElement(kmaC_MCWrapper::TypeId(), 0, "extension", "m20", kmaC_Material::TypeId())
+            .IsNull());
 }
 
 TEST_F(Transporter, KeepsLoadCasesWithTheirMaps) {
