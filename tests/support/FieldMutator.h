@@ -97,8 +97,6 @@ inline bool MutateField(mdl_Field const& field, void* object) {
             array = longer;
             return true;
         }
-        case mdl_FieldKind::Pending:
-            return false;
     }
     return false;
 }

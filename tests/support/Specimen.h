@@ -64,7 +64,6 @@ public:
     DD_FIELD(cls_xp1DArrayListDouble, reals)
     DD_FIELD(cls_xpMapString2Float, factors)
     DD_FIELD(cls_xp2DArrayDouble, cells)
-    DD_PENDING_AS(0x7770009, later, "afterwards")
     DD_END
 };
 
@@ -79,7 +78,6 @@ public:
         if (!v.Rule(count >= 0, 1)) return;                                         \
         v.Ask(option);                                                              \
         v.Ask(part);                                                                \
-        v.Ask(later);                                                               \
         v.AskEach(options);                                                         \
         v.AskEach(parts);                                                           \
         v.Rule(real >= 0.0, 2);                                                     \

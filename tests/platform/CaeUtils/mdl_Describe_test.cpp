@@ -76,8 +76,7 @@ char const* const defaultRecord =
     "  start 0x230001\n"
     "  check 82\n"
     "  array 0x0\n"
-    "}\n"
-    "null 13:later\n";
+    "}\n";
 
 TEST(Described, WritesItsBaseThenItsFieldsInTheOrderOfTheSchema) {
     WriteLog log;
@@ -134,7 +133,6 @@ TEST(Described, WritesTheElementsOfItsListsInOrderAndNullsForAbsentOnes) {
         "    start 0x7770003\n"
         "    base 0x7770002 {\n";
     std::string const rest =
-        "    null 13:later\n"
         "  }\n"
         "  null element 0x7770002\n"
         "  must delete\n"
@@ -313,7 +311,7 @@ TEST(Described, RegistersItsAttributes) {
         {"flag", 13, 1, 0},           {"colour", 14, 1, 0},         {"part", 15, 0x7770001, 0},
         {"option", 15, 0x7770001, 0}, {"options", 15, 0x230001, 1}, {"parts", 15, 0x230001, 1},
         {"ints", 15, 0x230001, 54},   {"reals", 15, 0x230001, 52},  {"factors", 15, 0x230002, 63},
-        {"cells", 15, 0x230001, 82},  {"later", 15, 0x7770009, 0},
+        {"cells", 15, 0x230001, 82},
     };
     ASSERT_EQ(metadata->Attributes().size(), std::size(expected));
     for (int i = 0; i < static_cast<int>(std::size(expected)); ++i) {
@@ -344,7 +342,6 @@ TEST(Described, TheReleaseFunctionEndsAHandleAndAllowsNull) {
 TEST(Described, ScriptNamesAreTheSchemaNamesUnlessTheLineSaysOtherwise) {
     EXPECT_STREQ(specimen_Whole::countCmd().Text(), "count");
     EXPECT_STREQ(specimen_Whole::textCmd().Text(), "label");
-    EXPECT_STREQ(specimen_Whole::laterCmd().Text(), "afterwards");
     EXPECT_STREQ(specimen_Whole::constructorCmd().Text(), "Whole");
     EXPECT_STREQ(specimen_Whole::setValuesCmd().Text(), "setValues");
     mdl_Description const& description = specimen_Whole::Description();
