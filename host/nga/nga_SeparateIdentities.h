@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "ddr_Model.h"
 
 namespace nga {
@@ -10,8 +12,16 @@ namespace nga {
 /// that bear an identity which another object (another address) bears already. What is truly shared
 /// is met at one address and stays one. Nothing is detached, and no change is recorded.
 ///
-/// Returns how many identities were given. Costs one pass over the model, and one look-up in a hash
-/// table for each identity.
+/// Returns how many identities were given. Costs one pass over the model, and a second one where
+/// any identity is met more than once, be it only that an object is shared.
 int SeparateIdentities(ddr_Model& model);
+
+/// An object of a described class, by its dynamic class.
+struct TypedObject {
+    unsigned typeId;
+    void const* object;
+};
+/// The same for objects that are to be written together and stand in no model.
+int SeparateIdentities(std::vector<TypedObject> const& objects);
 
 }  // namespace nga
