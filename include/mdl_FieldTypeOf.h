@@ -57,6 +57,9 @@ public:
     void Read(void* field, cls_ReadVisitor const& visitor,
               cls_FieldHandle const& handle) const override;
     bool Same(void const* a, void const* b) const override;
+    cls_Uid const* Uid(void const* field) const override {
+        return &static_cast<Proxy const*>(field)->uid;
+    }
 };
 extern template class mdl_ProxyField<cls_xp1DArrayListDouble>;
 extern template class mdl_ProxyField<cls_xp1DArrayListInt>;
@@ -159,6 +162,7 @@ public:
         As(field) = List(sub);
     }
     mdl_Description const* Held() const override { return &T::Description(); }
+    cls_Uid const* Uid(void const* field) const override { return &As(field).list.uid; }
     int Count(void const* field) const override { return As(field).Size(); }
     void const* ConstObject(void const* field, int index) const override {
         return As(field).ConstGet(index).GetPtr();
@@ -197,6 +201,7 @@ public:
         As(field) = cls_xo1DArrayList<T>(sub, As(field).context);
     }
     mdl_Description const* Held() const override { return &T::Description(); }
+    cls_Uid const* Uid(void const* field) const override { return &As(field).uid; }
     int Count(void const* field) const override { return As(field).Size(); }
     void const* ConstObject(void const* field, int index) const override {
         return &As(field).ConstGet(index);

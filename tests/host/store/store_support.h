@@ -85,6 +85,31 @@ inline std::string SqlText(std::string const& path, std::string const& sql) {
     return result;
 }
 
+/// Every row of a table, with all that stands in it.
+inline std::vector<std::string> SqlRows(std::string const& path, std::string const& table) {
+    sqlite3* database = nullptr;
+    sqlite3_stmt* statement = nullptr;
+    std::vector<std::string> rows;
+    EXPECT_EQ(sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
+    EXPECT_EQ(sqlite3_prepare_v2(database, ("SELECT * FROM \"" + table + "\"").c_str(), -1,
+                                 &statement, nullptr),
+              SQLITE_OK);
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        std::string& row = rows.emplace_back();
+        for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+            row += std::to_string(sqlite3_column_type(statement, i)) + ":";
+            void const* bytes = sqlite3_column_blob(statement, i);
+            if (bytes)
+                row.append(static_cast<char const*>(bytes),
+                           static_cast<std::size_t>(sqlite3_column_bytes(statement, i)));
+            row += ';';
+        }
+    }
+    sqlite3_finalize(statement);
+    sqlite3_close(database);
+    return rows;
+}
+
 /// What loading a file is refused with; empty if it is not.
 inline std::string Refusal(std::string const& path) {
     try {
