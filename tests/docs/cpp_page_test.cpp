@@ -73,13 +73,13 @@ TEST_F(CppPage, SharesAndDetaches) {
 TEST_F(CppPage, CopiesCompletely) {
     kmaC_Material const steel = MakeSteel();
     // [deep-copy]
-    std::unique_ptr<kmaC_Material> const apart(DDB_DeepCopyPtr(&steel, steel.DynTypeId()));
-    bool const sameContent = kmaC_Material::Description().Same(&steel, apart.get());  // true
-    bool const sameRecord = apart->uid == steel.uid;                                  // false
+    kmaC_MaterialContainer::Handle const apart(DDB_DeepCopyPtr(&steel, steel.DynTypeId()));
+    bool const sameContent = kmaC_Material::Description().Same(&steel, apart.GetPtr());  // true
+    bool const sameRecord = apart.ConstGet().uid == steel.uid;                           // false
     // [/deep-copy]
     EXPECT_TRUE(sameContent);
     EXPECT_FALSE(sameRecord);
-    EXPECT_NE(apart->elastic.GetPtr(), steel.elastic.GetPtr());
+    EXPECT_NE(apart.ConstGet().elastic.GetPtr(), steel.elastic.GetPtr());
 }
 
 TEST_F(CppPage, ValidatesAndCatches) {
