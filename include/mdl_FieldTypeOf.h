@@ -57,6 +57,9 @@ public:
     void Read(void* field, cls_ReadVisitor const& visitor,
               cls_FieldHandle const& handle) const override;
     bool Same(void const* a, void const* b) const override;
+    cls_Uid const* Uid(void const* field) const override {
+        return &static_cast<Proxy const*>(field)->uid;
+    }
 };
 extern template class mdl_ProxyField<cls_xp1DArrayListDouble>;
 extern template class mdl_ProxyField<cls_xp1DArrayListInt>;
@@ -159,6 +162,7 @@ public:
         As(field) = List(sub);
     }
     mdl_Description const* Held() const override { return &T::Description(); }
+    cls_Uid const* Uid(void const* field) const override { return &As(field).list.uid; }
     int Count(void const* field) const override { return As(field).Size(); }
     void const* ConstObject(void const* field, int index) const override {
         return As(field).ConstGet(index).GetPtr();
@@ -197,6 +201,7 @@ public:
         As(field) = cls_xo1DArrayList<T>(sub, As(field).context);
     }
     mdl_Description const* Held() const override { return &T::Description(); }
+    cls_Uid const* Uid(void const* field) const override { return &As(field).uid; }
     int Count(void const* field) const override { return As(field).Size(); }
     void const* ConstObject(void const* field, int index) const override {
         return &As(field).ConstGet(index);
@@ -274,20 +279,22 @@ template <mdl_DescribedObject T>
 struct mdl_FieldTypeOf<T> {
     static constexpr mdl_ObjectField<T> type{};
 };
-template <class T, class P>
+template <mdl_DescribedObject T, class P>
 struct mdl_FieldTypeOf<cow_ArrayCOW<T, P>> {
     static constexpr mdl_OptionField<cow_ArrayCOW<T, P>, T> type{};
 };
-template <class V, class T>
+template <class V, mdl_DescribedObject T>
 struct mdl_FieldTypeOf<mdl_1DArrayList<V, T>> {
     static constexpr mdl_OptionListField<mdl_1DArrayList<V, T>, V, T> type{};
 };
-template <class T>
+template <mdl_DescribedObject T>
 struct mdl_FieldTypeOf<cls_xo1DArrayList<T>> {
     static constexpr mdl_ObjectListField<T> type{};
 };
 
+/// Asks for the specialisation alone, not for its instance: within a class, where a field's line
+/// asks, the literals of the class's own enumerations are not yet to be had.
 template <class T>
 concept mdl_DescribableField = requires {
-    mdl_FieldTypeOf<T>::type;
+    sizeof(mdl_FieldTypeOf<T>);
 };

@@ -49,12 +49,6 @@ bool mdl_Description::Same(void const* a, void const* b) const {
     return true;
 }
 
-bool mdl_SameObjects(unsigned typeIdA, void const* a, unsigned typeIdB, void const* b) {
-    if (typeIdA != typeIdB) return false;
-    mdl_Description const* description = mdl_Description::Find(typeIdA);
-    return description && description->Same(a, b);
-}
-
 namespace {
 
 // Entered as a metadata domain runs the functions of its classes.

@@ -104,9 +104,6 @@ private:
     std::vector<mdl_Field> m_fields;
 };
 
-/// Whether the two objects, of one described class by their dynamic type, hold the same content.
-bool mdl_SameObjects(unsigned typeIdA, void const* a, unsigned typeIdB, void const* b);
-
 /// Registers a described class: its metadata object, its release function and its attributes.
 void mdl_RegisterDescribed(cls_ClassRegistrar& registrar, cls_ClassMetadata* metadata,
                            void (*release)(cow_HandleBase*), mdl_Description const& description);

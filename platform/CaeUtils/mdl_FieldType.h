@@ -48,6 +48,10 @@ public:
     /// same bits and zeros differ by their sign, since this asks whether anything was lost.
     virtual bool Same(void const* a, void const* b) const = 0;
 
+    /// The identity of the record that the field itself is, as lists, maps and arrays are; null
+    /// where the field is none. Objects in the field have their own.
+    virtual cls_Uid const* Uid(void const*) const { return nullptr; }
+
     // ---- enumerations ----
     virtual omu_EnumRow const* Rows() const { return nullptr; }
     unsigned Number(void const* field) const;

@@ -11,7 +11,7 @@ template class ddr_SequenceShortcut<kmaC_MaterialOptionList, kmaC_MaterialOption
 
 namespace {
 
-char const* const kmaSource = "generated/module/kma/com/impl/kmaC_MatOptionListShortcut";
+char const* const kmaListSource = "generated/module/kma/com/impl/kmaC_MatOptionListShortcut";
 
 // What the test is made on is the base's constant and not the object's class: it fails for every
 // object. What follows it is what the step would do.
@@ -19,9 +19,10 @@ template <class Option>
 auto& RequireMullinsEffect(Option& option, char const* text) {
     using MullinsEffect =
         std::conditional_t<std::is_const_v<Option>, kmaC_MullinsEffect const, kmaC_MullinsEffect>;
-    ddr_RequireOwner(kmaC_MaterialOption::TypeId(), {kmaC_MullinsEffect::TypeId()}, text, kmaSource,
-                     __LINE__);
-    nex_canDynamicCastRef(kmaC_MullinsEffect::TypeId(), option.DynTypeId(), kmaSource, __LINE__);
+    ddr_RequireOwner(kmaC_MaterialOption::TypeId(), {kmaC_MullinsEffect::TypeId()}, text,
+                     kmaListSource, __LINE__);
+    nex_canDynamicCastRef(kmaC_MullinsEffect::TypeId(), option.DynTypeId(), kmaListSource,
+                          __LINE__);
     return static_cast<MullinsEffect&>(option);
 }
 

@@ -11,10 +11,10 @@ template class ddr_DictionaryShortcut<kmaC_MaterialOption, kmaC_MaterialOption, 
 
 namespace {
 
-char const* const kmaSource = "generated/module/kma/com/impl/kmaC_MaterialOptionShortcut";
+char const* const kmaOptionSource = "generated/module/kma/com/impl/kmaC_MaterialOptionShortcut";
 
 // clang-format off
-constexpr char const* kmaTexts[] = {
+constexpr char const* kmaShortcutTexts[] = {
     /*  0 */ "Unknown material option",
     /*  1 */ "Unknown material option name for jointed material",
     /*  2 */ "Unknown material option name for swelling",
@@ -47,7 +47,7 @@ constexpr char const* kmaTexts[] = {
 enum kmaShortcutError : int { kmaUnknownOption = 0, kmaNoSuboptions = 10 };
 
 [[noreturn]] void Raise(int code, int line) {
-    nex_TextException(kmaC_ShortcutErrorText(code)).Throw(kmaSource, line);
+    nex_TextException(kmaC_ShortcutErrorText(code)).Throw(kmaOptionSource, line);
 }
 
 // ---- members that hold an option -------------------------------------------------------------
@@ -175,12 +175,12 @@ struct SuboptionCase {
 
 template <class Parent>
 Parent const& As(kmaC_MaterialOption const& option) {
-    nex_canDynamicCastRef(Parent::TypeId(), option.DynTypeId(), kmaSource, __LINE__);
+    nex_canDynamicCastRef(Parent::TypeId(), option.DynTypeId(), kmaOptionSource, __LINE__);
     return static_cast<Parent const&>(option);
 }
 template <class Parent>
 Parent& As(kmaC_MaterialOption& option) {
-    nex_canDynamicCastRef(Parent::TypeId(), option.DynTypeId(), kmaSource, __LINE__);
+    nex_canDynamicCastRef(Parent::TypeId(), option.DynTypeId(), kmaOptionSource, __LINE__);
     return static_cast<Parent&>(option);
 }
 
@@ -253,7 +253,7 @@ cow_String OptionsStep(cow_String const& key) {
 
 }  // namespace
 
-atr_String kmaC_ShortcutErrorText(int code) { return nex_TextOfCode(kmaTexts, code); }
+atr_String kmaC_ShortcutErrorText(int code) { return nex_TextOfCode(kmaShortcutTexts, code); }
 
 using InMaterial = ddr_StepTraits<kmaC_MaterialOptionInMaterialShortcut>;
 using InOption = ddr_StepTraits<kmaC_MaterialOptionInMaterialOptionShortcut>;

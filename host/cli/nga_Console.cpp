@@ -1,0 +1,118 @@
+#include "nga_Console.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+
+#include "nga_Error.h"
+
+namespace nga {
+
+namespace {
+
+bool Coloured(int stream) {
+    char const* const refused = std::getenv("NO_COLOR");
+    char const* const terminal = std::getenv("TERM");
+    if (refused && *refused) return false;
+    if (terminal && std::strcmp(terminal, "dumb") == 0) return false;
+    return isatty(stream) != 0;
+}
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+[[noreturn]] void FailFile(char const* what, std::string const& path, int cause) {
+    throw Error(std::string(what) + ": " + std::strerror(cause), path);
+}
+
+}  // namespace
+
+Console::Console() : m_colourOut(Coloured(1)), m_colourErr(Coloured(2)) {}
+
+void Console::Result(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }
+
+void Console::Say(std::string const& text) {
+    if (!quiet) std::fprintf(stderr, "%s\n", text.c_str());
+}
+
+void Console::Fail(std::string const& text) {
+    std::fprintf(stderr, m_colourErr ? "\033[31mnga:\033[0m %s\n" : "nga: %s\n", text.c_str());
+}
+
+std::string Console::Strong(std::string const& text) const {
+    return m_colourOut ? "\033[1m" + text + "\033[0m" : text;
+}
+std::string Console::Alarming(std::string const& text) const {
+    return m_colourOut ? "\033[31m" + text + "\033[0m" : text;
+}
+
+void Console::Finish() {
+    if (std::fflush(stdout) != 0) FailFile("cannot write", "the standard output", errno);
+    if (std::ferror(stdout)) throw Error("cannot write", "the standard output");
+}
+
+std::string ReadText(std::string const& path) {
+    File opened;
+    std::FILE* file = stdin;
+    if (path != "-") {
+        opened.reset(std::fopen(path.c_str(), "rb"));
+        if (!opened) FailFile("cannot open", path, errno);
+        file = opened.get();
+    }
+    std::string text;
+    char block[65536];
+    while (std::size_t const count = std::fread(block, 1, sizeof block, file))
+        text.append(block, count);
+    if (std::ferror(file)) FailFile("cannot read", path, errno);
+    return text;
+}
+
+void WriteText(std::string const& path, std::string_view text) {
+    std::string const target =
+        std::filesystem::exists(path) ? std::filesystem::canonical(path).string() : path;
+    // What is no plain file (a pipe, a terminal) cannot be replaced; it takes what is written.
+    if (std::filesystem::exists(target) && !std::filesystem::is_regular_file(target)) {
+        File const file(std::fopen(target.c_str(), "wb"));
+        if (!file) FailFile("cannot write", path, errno);
+        if (std::fwrite(text.data(), 1, text.size(), file.get()) != text.size() ||
+            std::fflush(file.get()) != 0)
+            FailFile("cannot write", path, errno);
+        return;
+    }
+    std::string beside = target + ".XXXXXX";
+    int const descriptor = mkstemp(beside.data());
+    if (descriptor < 0) FailFile("cannot write", path, errno);
+    struct Litter {
+        std::string const& path;
+        bool gone = false;
+        ~Litter() {
+            if (!gone) unlink(path.c_str());
+        }
+    } litter{beside};
+    {
+        File const file(fdopen(descriptor, "wb"));
+        if (!file || std::fwrite(text.data(), 1, text.size(), file.get()) != text.size() ||
+            std::fflush(file.get()) != 0 || fsync(descriptor) != 0)
+            FailFile("cannot write", path, errno);
+    }
+    std::error_code failure;
+    // A new file has the mode that the user's mask gives, not that of a secret.
+    mode_t const mask = umask(0);
+    umask(mask);
+    std::filesystem::perms mode = std::filesystem::perms(0666u & ~mask);
+    if (std::filesystem::exists(target))
+        mode = std::filesystem::status(target, failure).permissions();
+    std::filesystem::permissions(beside, mode, failure);
+    if (std::rename(beside.c_str(), target.c_str()) != 0) FailFile("cannot write", path, errno);
+    litter.gone = true;
+}
+
+}  // namespace nga

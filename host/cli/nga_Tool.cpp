@@ -1,0 +1,392 @@
+#include "nga_Tool.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+
+#include "nex_Exception.h"
+#include "nga_Check.h"
+#include "nga_Completion.h"
+#include "nga_Console.h"
+#include "nga_Document.h"
+#include "nga_Error.h"
+#include "nga_Journal.h"
+#include "nga_Json.h"
+#include "nga_JsonWriter.h"
+#include "nga_Names.h"
+#include "nga_Path.h"
+#include "nga_Schema.h"
+#include "nga_Tree.h"
+
+namespace nga {
+
+namespace {
+
+constexpr char const* toolVersion = "nga 0.1.0 (schema 1111)";
+
+/// What the command line said.
+struct Arguments {
+    std::string file;
+    std::string path;
+    std::string into;
+    std::string output;
+    std::string onConflict = "error";
+    std::string className;
+    std::string shell;
+    bool json = false;
+    bool paths = false;
+};
+
+bool EndsWith(std::string const& text, std::string_view ending) {
+    return text.size() >= ending.size() &&
+           text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+/// A failure in a text, with the text's file before it.
+template <class Do>
+auto InFile(std::string const& file, Do work) {
+    try {
+        return work();
+    } catch (Error const& failure) {
+        std::string const place =
+            failure.Line() > 0 ? file + ":" + std::to_string(failure.Line()) : file;
+        throw Error(failure.Message(),
+                    failure.Place().empty() ? place : place + ": " + failure.Place(), 0,
+                    failure.Expected());
+    }
+}
+
+std::string NameFor(std::string const& file) {
+    return file == "-" ? "document" : Document::StemOf(file);
+}
+
+/// A document from a database, or from a text in memory, so that a text can be looked at and
+/// checked without a database.
+Document OpenAny(std::string const& file) {
+    if (file != "-" && !EndsWith(file, ".json")) return Document::Open(file);
+    Document document = Document::New(NameFor(file));
+    std::string const text = ReadText(file);
+    InFile(file, [&] { ImportJson(document, text); });
+    return document;
+}
+
+void RefuseExisting(std::string const& file, std::string const& expected) {
+    std::error_code ignored;
+    if (std::filesystem::exists(std::filesystem::symlink_status(file, ignored)))
+        throw Error("the file is there already", file, 0, expected);
+}
+
+OnConflict ConflictRule(std::string const& text) {
+    if (text == "replace") return OnConflict::Replace;
+    if (text == "keep") return OnConflict::Keep;
+    return OnConflict::Error;
+}
+
+class Tool {
+public:
+    explicit Tool(Console& console) : m_console(console) {
+        Arguments& a = m_arguments;
+        m_app.require_subcommand(1);
+        m_app.set_version_flag("--version", toolVersion);
+        m_app.add_flag("-q,--quiet", m_console.quiet, "Say nothing but results and failures");
+        m_app.footer(
+            "Exit codes: 0 fine, 1 findings, 2 misuse or failure.\n"
+            "A FILE that ends in .json is read as a text, anything else as a database.\n"
+            "Example:\n  nga import examples/bracket.json --into bracket.nga");
+
+        CLI::App* verb = Verb("new", "Make an empty document", "nga new bridge.nga", &Tool::New);
+        verb->add_option("FILE", a.file, "The new file")->required();
+
+        verb = Verb("import", "Put the objects of a JSON text into a document",
+                    "nga import examples/bracket.json --into bracket.nga --on-conflict replace",
+                    &Tool::Import);
+        verb->add_option("TEXT", a.file, "The JSON text, or - for the standard input")->required();
+        verb->add_option("--into", a.into,
+                         "The document, made if it is not there; without this a new one in this "
+                         "folder, named as the text");
+        Conflicts(verb);
+        Json(verb);
+
+        verb = Verb("export", "Write a document as JSON text",
+                    "nga export bracket.nga --output bracket.json", &Tool::Export);
+        File(verb);
+        verb->add_option("-o,--output", a.output, "A file instead of the standard output");
+
+        verb = Verb("tree", "Show the objects of a document",
+                    "nga tree bracket.nga \"materials['steel']\"", &Tool::Tree);
+        File(verb);
+        verb->add_option("PATH", a.path, "Only what stands at and below this path");
+        verb->add_flag("--paths", a.paths, "A whole path a line instead of indented steps");
+        Json(verb);
+
+        verb = Verb("show", "Show one object or value",
+                    "nga show bracket.nga \"materials['steel'].options['elastic'].table\"",
+                    &Tool::Show);
+        File(verb);
+        verb->add_option("PATH", a.path, "As tree and check print it; the document's step may miss")
+            ->required();
+        Json(verb);
+
+        verb = Verb("check", "List every object that breaks a rule; exit code 1 if there is one",
+                    "nga check bracket.nga --json", &Tool::Check);
+        File(verb);
+        Json(verb);
+
+        verb = Verb("schema", "Show one class or all, as they are registered", "nga schema Elastic",
+                    &Tool::Schema);
+        verb->add_option("CLASS", a.className, "Persistent name, script constructor or 0x TypeId");
+        Json(verb);
+
+        verb = Verb("journal", "Show the change records of an import, without saving anything",
+                    "nga journal examples/bracket.json", &Tool::Journal);
+        verb->add_option("TEXT", a.file, "The JSON text, or - for the standard input")->required();
+        verb->add_option("--into", a.into, "The document to import into, left as it is");
+        Conflicts(verb);
+        Json(verb);
+
+        verb = Verb("completion", "Print the completion script of a shell",
+                    "nga completion bash > ~/.local/share/bash-completion/completions/nga",
+                    &Tool::Completion);
+        verb->add_option("SHELL", a.shell, "bash, zsh or fish")
+            ->required()
+            ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+    }
+
+    int Run(int argc, char const* const* argv) {
+        try {
+            m_app.parse(argc, argv);
+        } catch (CLI::Success const& wanted) {
+            return m_app.exit(wanted);  // help or the version, on the standard output
+        } catch (CLI::ParseError const& failure) {
+            m_console.Fail(Misuse(argc, argv, failure));
+            return exitFailure;
+        }
+        int const code = (this->*m_chosen)();
+        m_console.Finish();
+        return code;
+    }
+
+private:
+    using Action = int (Tool::*)();
+
+    CLI::App* Verb(char const* name, char const* help, char const* example, Action action) {
+        CLI::App* verb = m_app.add_subcommand(name, help);
+        verb->footer(std::string("Example:\n  ") + example);
+        verb->callback([this, action] { m_chosen = action; });
+        verb->fallthrough();
+        return verb;
+    }
+    void File(CLI::App* verb) {
+        verb->add_option("FILE", m_arguments.file,
+                         "A database, a .json text, or - for a text on "
+                         "the standard input")
+            ->required();
+    }
+    void Json(CLI::App* verb) { verb->add_flag("--json", m_arguments.json, "Report as JSON"); }
+    void Conflicts(CLI::App* verb) {
+        verb->add_option("--on-conflict", m_arguments.onConflict,
+                         "For a name that the document has already: error refuses the whole "
+                         "import, keep leaves the document's object, replace takes the text's")
+            ->check(CLI::IsMember({"error", "keep", "replace"}))
+            ->capture_default_str();
+    }
+
+    std::string Misuse(int argc, char const* const* argv, CLI::ParseError const& failure) {
+        std::vector<std::string> names;
+        for (CLI::App const* verb : m_app.get_subcommands([](CLI::App*) { return true; }))
+            names.push_back(verb->get_name());
+        std::string help = "nga --help";
+        for (int i = 1; i < argc; ++i) {
+            std::string const word = argv[i];
+            if (word.empty() || word[0] == '-') continue;
+            if (std::find(names.begin(), names.end(), word) == names.end())
+                return "there is no verb " + Quoted(word) + DidYouMean(word, names) + "; see " +
+                       help;
+            help = "nga " + word + " --help";
+            break;
+        }
+        return Printable(failure.what()) + "; see " + help;
+    }
+
+    int New() {
+        RefuseExisting(m_arguments.file, "the name of a new file");
+        Document document = Document::New(Document::StemOf(m_arguments.file));
+        document.SaveAs(m_arguments.file);
+        m_console.Say("made " + Printable(m_arguments.file));
+        return exitFine;
+    }
+
+    Document Target(std::string const& file) {
+        std::error_code ignored;
+        if (std::filesystem::exists(file, ignored)) return Document::Open(file);
+        return Document::New(Document::StemOf(file));
+    }
+
+    int Import() {
+        std::string into = m_arguments.into;
+        if (into.empty()) {
+            into = NameFor(m_arguments.file) + ".nga";
+            RefuseExisting(into, "--into to say that this document is meant");
+        }
+        std::string const text = ReadText(m_arguments.file);
+        Document document = Target(into);
+        std::vector<Imported> const report = InFile(m_arguments.file, [&] {
+            return ImportJson(document, text, ConflictRule(m_arguments.onConflict));
+        });
+        if (document.File().empty())
+            document.SaveAs(into);
+        else
+            document.Save();
+        if (m_arguments.json) {
+            m_console.Result(ReportJson(into, report));
+        } else {
+            for (Imported const& line : report) SayImported(line, into);
+        }
+        return exitFine;
+    }
+    static std::string ReportJson(std::string const& into, std::vector<Imported> const& report) {
+        JsonWriter writer;
+        writer.BeginObject();
+        writer.Key("file");
+        writer.String(into);
+        for (Imported const& line : report) {
+            writer.Key(line.collection);
+            writer.BeginObject();
+            writer.Key("added");
+            writer.Int(line.added);
+            writer.Key("replaced");
+            writer.Int(line.replaced);
+            writer.Key("kept");
+            writer.Int(line.kept);
+            writer.EndObject();
+        }
+        writer.EndObject();
+        return writer.Take();
+    }
+    void SayImported(Imported const& line, std::string const& into) {
+        if (line.added + line.replaced + line.kept == 0) return;
+        std::string text = line.collection + ": " + std::to_string(line.added) + " added";
+        if (line.replaced) text += ", " + std::to_string(line.replaced) + " replaced";
+        if (line.kept) text += ", " + std::to_string(line.kept) + " kept as they were";
+        m_console.Say(text + " in " + Printable(into));
+    }
+
+    int Export() {
+        Document const document = OpenAny(m_arguments.file);
+        std::string const text = ExportJson(document);
+        if (m_arguments.output.empty() || m_arguments.output == "-")
+            m_console.Result(text);
+        else
+            WriteText(m_arguments.output, text);
+        return exitFine;
+    }
+
+    int Tree() {
+        Document const document = OpenAny(m_arguments.file);
+        Selection const from = Resolve(document, m_arguments.path);
+        TreeNode const tree = BuildTree(document, from);
+        m_console.Result(m_arguments.json ? TreeJson(tree) : TreeText(tree, m_arguments.paths));
+        return exitFine;
+    }
+
+    int Show() {
+        Document const document = OpenAny(m_arguments.file);
+        Selection const selection = Resolve(document, m_arguments.path);
+        m_console.Result(m_arguments.json ? ShowJson(document, selection)
+                                          : ShowText(document, selection));
+        return exitFine;
+    }
+
+    int Check() {
+        Document const document = OpenAny(m_arguments.file);
+        std::vector<Finding> const findings = nga::Check(document);
+        if (m_arguments.json) {
+            m_console.Result(FindingsJson(document, findings));
+        } else {
+            for (Finding const& finding : findings) {
+                std::string const code =
+                    finding.code < 0 ? std::string()
+                                     : finding.module + " " + std::to_string(finding.code) + ": ";
+                m_console.Result(m_console.Strong(finding.path) + ": " + m_console.Alarming(code) +
+                                 Printable(finding.message) + "\n");
+            }
+            m_console.Say(findings.empty() ? "no findings"
+                                           : std::to_string(findings.size()) +
+                                                 (findings.size() == 1 ? " finding" : " findings"));
+        }
+        return findings.empty() ? exitFine : exitFindings;
+    }
+    static std::string FindingsJson(Document const& document,
+                                    std::vector<Finding> const& findings) {
+        JsonWriter writer;
+        writer.BeginObject();
+        writer.Key("path");
+        writer.String(DocumentPath(document));
+        writer.Key("findings");
+        writer.BeginArray();
+        for (Finding const& finding : findings) {
+            writer.BeginObject();
+            writer.Key("path");
+            writer.String(finding.path);
+            writer.Key("module");
+            writer.String(finding.module);
+            writer.Key("code");
+            if (finding.code < 0)
+                writer.Null();
+            else
+                writer.Int(finding.code);
+            writer.Key("message");
+            writer.String(finding.message);
+            writer.EndObject();
+        }
+        writer.EndArray();
+        writer.EndObject();
+        return writer.Take();
+    }
+
+    int Schema() {
+        auto const classes =
+            m_arguments.className.empty() ? SchemaClasses() : SchemaClasses(m_arguments.className);
+        m_console.Result(m_arguments.json ? SchemaJson(classes) : SchemaText(classes));
+        return exitFine;
+    }
+
+    int Journal() {
+        std::string const text = ReadText(m_arguments.file);
+        Document document = m_arguments.into.empty() ? Document::New(NameFor(m_arguments.file))
+                                                     : OpenAny(m_arguments.into);
+        nga::Journal journal;
+        InFile(m_arguments.file,
+               [&] { ImportJson(document, text, ConflictRule(m_arguments.onConflict)); });
+        m_console.Result(m_arguments.json ? journal.Json() : journal.Text());
+        return exitFine;
+    }
+
+    int Completion() {
+        m_console.Result(CompletionScript(m_app, m_arguments.shell));
+        return exitFine;
+    }
+
+    Console& m_console;
+    CLI::App m_app{"Attribute definitions of analysis models: in, checked, stored, and out again.",
+                   "nga"};
+    Arguments m_arguments;
+    Action m_chosen = nullptr;
+};
+
+}  // namespace
+
+int RunTool(int argc, char const* const* argv) {
+    Console console;
+    try {
+        return Tool(console).Run(argc, argv);
+    } catch (nex_Exception const& failure) {
+        console.Fail(Printable(failure.UserReport().View()));
+    } catch (std::bad_alloc const&) {
+        console.Fail("the memory does not suffice for this");
+    } catch (std::exception const& failure) {
+        console.Fail(Printable(failure.what()));
+    }
+    return exitFailure;
+}
+
+}  // namespace nga

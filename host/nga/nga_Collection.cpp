@@ -1,0 +1,102 @@
+#include "nga_Collection.h"
+
+#include "cow_BtreeIterator.h"
+#include "kmaC_Material.h"
+#include "nga_HostExtension.h"
+
+namespace nga {
+
+namespace {
+
+/// Where a kind's repository stands in a model. Reading a model that never had the extension must
+/// not make it one, or every look would leave a record behind in the next save.
+struct InWrapper {
+    template <class Repository>
+    static Repository const* Find(ddr_Model const& model, char const* extension) {
+        cow_String const name(extension);
+        if (!model.HasInstance(name)) return nullptr;
+        return static_cast<Repository const*>(&model.ConstGetExtension(name).ConstGetValue());
+    }
+    template <class Repository>
+    static Repository& Get(ddr_Model& model, char const* extension) {
+        return static_cast<Repository&>(model.GetExtension(cow_String(extension)).GetValue());
+    }
+};
+
+struct InHost {
+    template <class Repository>
+    static klcC_LoadCaseCont const* Find(ddr_Model const& model, char const*) {
+        cow_String const name(HostExtension::extensionCmd());
+        if (!model.HasInstance(name)) return nullptr;
+        return &static_cast<HostExtension const&>(model.ConstGetExtension(name)).loadCases;
+    }
+    template <class Repository>
+    static klcC_LoadCaseCont& Get(ddr_Model& model, char const*) {
+        cow_String const name(HostExtension::extensionCmd());
+        return static_cast<HostExtension&>(model.GetExtension(name)).loadCases;
+    }
+};
+
+template <class T, class Place>
+class RepositoryCollection final : public Collection {
+    using Repository = mdl_MapString2ObjCow<T>;
+
+public:
+    explicit RepositoryCollection(omn_FixedString name)
+        : Collection(name.Text(), T::Description()) {}
+
+    int Size(ddr_Model const& model) const override {
+        Repository const* repository = Found(model);
+        return repository ? repository->Size() : 0;
+    }
+    void const* Find(ddr_Model const& model, cow_String const& key) const override {
+        Repository const* repository = Found(model);
+        return repository ? repository->ConstGetPtr(key) : nullptr;
+    }
+    void Each(ddr_Model const& model, Visit const& visit) const override {
+        Repository const* repository = Found(model);
+        if (!repository) return;
+        cow_BtreeIterator<cow_String, typename Repository::Handle> position(
+            repository->ConstGetMap());
+        for (position.First(); !position.IsDone(); position.Next())
+            visit(position.CurrentKey(), position.CurrentValue().GetPtr());
+    }
+    unsigned DynTypeIdOf(void const* object) const override {
+        return static_cast<T const*>(object)->DynTypeId();
+    }
+    void Insert(ddr_Model& model, cow_String const& key, void* object) const override {
+        Place::template Get<Repository>(model, Name()).Insert(key, static_cast<T*>(object));
+    }
+    cls_Uid const* MapUid(ddr_Model const& model) const override {
+        Repository const* repository = Found(model);
+        return repository ? &repository->ConstGetMap().uid : nullptr;
+    }
+    std::function<void()> Keep(ddr_Model& model) const override {
+        Repository& repository = Place::template Get<Repository>(model, Name());
+        return [&repository, kept = repository] { repository = kept; };
+    }
+
+private:
+    Repository const* Found(ddr_Model const& model) const {
+        return Place::template Find<Repository>(model, Name());
+    }
+};
+
+}  // namespace
+
+std::vector<Collection const*> const& Collection::All() {
+    static RepositoryCollection<kmaC_Material, InWrapper> const materials(
+        kmaC_Material::materialRepositoryCmd());
+    static RepositoryCollection<klcC_LoadCase, InHost> const loadCases(
+        klcC_LoadCase::loadCaseCmd());
+    static std::vector<Collection const*> const all = {&materials, &loadCases};
+    return all;
+}
+
+Collection const* Collection::FindByName(std::string_view name) {
+    for (Collection const* collection : All())
+        if (name == collection->Name()) return collection;
+    return nullptr;
+}
+
+}  // namespace nga
