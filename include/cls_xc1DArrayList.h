@@ -21,7 +21,7 @@ public:
         visitor.StartWrite(cls_ListTypeId, uid);
         visitor.CheckCollectionType(cls_CollectionList);
         cls_WriteListObj* writer = visitor.Agent().OpenList(1);
-        std::unique_ptr<cls_WriteListObj> owned(writer->MustDelete() ? writer : nullptr);
+        cls_WriterScope<cls_WriteListObj> const scope(writer);
         for (int i = 0; i < this->Size(); ++i) {
             V const& value = this->UncheckedConstGet(i);
             if (!value.GetPtr()) {

@@ -63,8 +63,7 @@ void cls_xcBtree<K, V, T>::DBWrite(cls_WriteVisitor const& visitor) const {
     }();
     using Request =
         std::conditional_t<byText, cls_WriteRequestMapString2Obj, cls_WriteRequestMapInt2Obj>;
-    std::unique_ptr<std::remove_pointer_t<decltype(writer)>> owned(writer->MustDelete() ? writer
-                                                                                        : nullptr);
+    cls_WriterScope<std::remove_pointer_t<decltype(writer)>> const scope(writer);
     cow_BtreeIterator<K, V> position(*this);
     for (position.First(); !position.IsDone(); position.Next()) {
         V const& value = position.CurrentValue();

@@ -51,7 +51,7 @@ public:
         {
             Counted counted{size, -1};
             Head head(*this);
-            head.node.left->Get().Remove(key, head.node, counted.done);
+            head.node.side[0]->Get().Remove(key, head.node, counted.done);
         }
         if (root) BalanceRoot();
         return true;
@@ -77,11 +77,11 @@ private:
     // What is left below it becomes the root again, on every way out.
     struct Head {
         explicit Head(cow_Btree& headed) : tree(headed), node(K(), headed.nullValue) {
-            node.left = Node::CopyLink(tree.root);
+            node.side[0] = Node::CopyLink(tree.root);
             tree.ClearRoot();
         }
         ~Head() {
-            if (node.left) tree.SetRoot(*node.left);
+            if (node.side[0]) tree.SetRoot(*node.side[0]);
         }
         cow_Btree& tree;
         Node node;
@@ -105,7 +105,7 @@ private:
         // change places.
         root->Swap(*risen);
         Node& node = root->Get();
-        (node.left == root ? node.left : node.right) = risen;
+        node.side[node.side[1] == root] = risen;
     }
 
     RootRoom room;

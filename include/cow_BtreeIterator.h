@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "cow_Btree.h"
 
 // Walks a tree in key order, either way. It holds no share of the tree: a write to the tree ends
@@ -13,7 +15,10 @@ public:
     explicit cow_BtreeIterator(cow_Btree<K, V> const& walked) : tree(&walked) {}
     cow_BtreeIterator(cow_BtreeIterator const&) = delete;
     cow_BtreeIterator& operator=(cow_BtreeIterator const&) = delete;
-    ~cow_BtreeIterator() { Clear(); }
+    ~cow_BtreeIterator() {
+        Clear();
+        while (spare) mem_Free(std::exchange(spare, spare->next));
+    }
 
     // All four tell whether there is a current node afterwards.
     bool First() {
@@ -45,34 +50,52 @@ private:
     };
 
     void Push(Link const* link) {
-        top = ::new (mem_OperatorNewThrow(sizeof(Cell))) Cell{link, top};
+        Cell* cell = spare;
+        if (cell) {
+            spare = cell->next;
+        } else {
+            cell = static_cast<Cell*>(mem_OperatorNewThrow(sizeof(Cell)));
+        }
+        top = ::new (cell) Cell{link, top};
     }
     Link const* Pop() noexcept {
         Cell* const cell = top;
         Link const* const link = cell->link;
         top = cell->next;
-        mem_Free(cell);
+        cell->next = spare;
+        spare = cell;
         return link;
     }
     void Clear() noexcept {
         while (top) Pop();
     }
     void Descend(Link const* link, Side side) {
-        for (; link; link = (link->ConstGet().*side)()) Push(link);
+        while (link) {
+            Node const& node = link->ConstGet();
+            node.FetchSides();
+            node.FetchContent();
+            Push(link);
+            link = (node.*side)();
+        }
     }
     bool Step(Side ahead, Side back) {
         if (!top) return false;
         if (Link const* const further = (CurrentNode().*ahead)()) {
             Descend(further, back);
-            return true;
+        } else {
+            Link const* done;
+            do {
+                done = Pop();
+            } while (top && (CurrentNode().*ahead)() == done);
+            if (!top) return false;
         }
-        Link const* done;
-        do {
-            done = Pop();
-        } while (top && (CurrentNode().*ahead)() == done);
-        return top != nullptr;
+        // The step after this one goes down there.
+        if (Link const* const further = (CurrentNode().*ahead)()) further->ConstGet().FetchSides();
+        return true;
     }
 
     cow_Btree<K, V> const* tree;
     Cell* top = nullptr;
+    // Cells to use again.
+    Cell* spare = nullptr;
 };

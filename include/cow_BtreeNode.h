@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <type_traits>
 #include <utility>
 
 #include "atr_NaturalOrder.h"
@@ -10,12 +12,14 @@
 template <class K>
 struct cow_BtreeOrder {
     static int Compare(K const& a, K const& b) noexcept { return a < b ? -1 : b < a ? 1 : 0; }
+    static void Fetch(K const&) noexcept {}
 };
 template <>
 struct cow_BtreeOrder<cow_String> {
     static int Compare(cow_String const& a, cow_String const& b) noexcept {
         return atr_CompareNames(a, b);
     }
+    static void Fetch(cow_String const& key) noexcept { __builtin_prefetch(key.Text()); }
 };
 
 template <class K, class V>
@@ -37,26 +41,27 @@ public:
     // Shares value, key and children.
     cow_BtreeNode(cow_BtreeNode const& other)
         : value(other.value), key(other.key), height(other.height) {
-        Released copies{CopyLink(other.left), nullptr};
-        copies.second = CopyLink(other.right);
-        left = std::exchange(copies.first, nullptr);
-        right = std::exchange(copies.second, nullptr);
+        Released copies{CopyLink(other.side[0]), nullptr};
+        copies.second = CopyLink(other.side[1]);
+        side[0] = std::exchange(copies.first, nullptr);
+        side[1] = std::exchange(copies.second, nullptr);
     }
     cow_BtreeNode& operator=(cow_BtreeNode const&) = delete;
     ~cow_BtreeNode() {
-        ReleaseLink(left);
-        ReleaseLink(right);
+        FetchSides();
+        FetchContent();
+        ReleaseLink(side[0]);
+        ReleaseLink(side[1]);
     }
 
     // The node of the key, or null; copies nothing.
     cow_BtreeNode const* ConstFind(K const& searched) const noexcept {
         cow_BtreeNode const* node = this;
         for (;;) {
-            Link const* const toLeft = node->left;
-            Link const* const toRight = node->right;
+            node->FetchSides();
             int const order = cow_BtreeOrder<K>::Compare(searched, node->key);
             if (order == 0) return node;
-            Link const* const next = order < 0 ? toLeft : toRight;
+            Link const* const next = node->side[order > 0];
             if (!next) return nullptr;
             node = next->GetPtr();
         }
@@ -65,9 +70,10 @@ public:
     cow_BtreeNode* Find(K const& searched) {
         cow_BtreeNode* node = this;
         for (;;) {
+            node->FetchSides();
             int const order = cow_BtreeOrder<K>::Compare(searched, node->key);
             if (order == 0) return node;
-            Link* const next = order < 0 ? node->left : node->right;
+            Link* const next = node->side[order > 0];
             if (!next) return nullptr;
             node = &next->Get();
         }
@@ -75,9 +81,10 @@ public:
     // False for a key that is there, whose value stays. inserted becomes true as soon as the key is
     // in the tree, also when balancing fails afterwards for want of memory.
     bool InsertUnlessMember(K const& inKey, V const& inValue, bool& inserted) {
+        FetchSides();
         int const order = cow_BtreeOrder<K>::Compare(inKey, key);
         if (order == 0) return false;
-        Link*& child = order < 0 ? left : right;
+        Link*& child = side[order > 0];
         if (child) {
             cow_BtreeNode& node = child->Get();
             if (!node.InsertUnlessMember(inKey, inValue, inserted)) return false;
@@ -94,7 +101,7 @@ public:
     bool Remove(K const& outKey, cow_BtreeNode& parent, bool& removed) {
         int const order = cow_BtreeOrder<K>::Compare(outKey, key);
         if (order != 0) {
-            Link*& child = order < 0 ? left : right;
+            Link*& child = side[order > 0];
             if (!child) return false;
             if (!child->Get().Remove(outKey, *this, removed)) return false;
             if (child) {
@@ -104,14 +111,14 @@ public:
             return true;
         }
         Link* const replacement = TakeReplacement();
-        left = right = nullptr;
+        side[0] = side[1] = nullptr;
         parent.RemoveNode(this, replacement);
         removed = true;
         return true;
     }
     // Puts the replacement, which may be null, in the place of a child and ends the child.
     void RemoveNode(cow_BtreeNode const* child, Link* replacement) noexcept {
-        Link*& place = right && right->GetPtr() == child ? right : left;
+        Link*& place = side[side[1] && side[1]->GetPtr() == child];
         ReleaseLink(std::exchange(place, replacement));
         ComputeHeight();
     }
@@ -119,38 +126,47 @@ public:
     // counting 0 like a leaf. Gets the link that points here; gives the one to put in its place, or
     // null.
     Link* Balance(Link* link) {
-        int const difference = HeightOf(right) - HeightOf(left);
-        if (difference >= 2) {
-            cow_BtreeNode& child = right->Get();
-            Link* const risen = std::exchange(right, child.left);
-            child.left = link;
-            ComputeHeight();
-            child.ComputeHeight();
-            return risen;
+        int const difference = HeightOf(side[1]) - HeightOf(side[0]);
+        if (difference < 2 && difference >= -1) return nullptr;
+        int const high = difference > 0;
+        cow_BtreeNode& child = side[high]->Get();
+        Link* const risen = std::exchange(side[high], child.side[1 - high]);
+        child.side[1 - high] = link;
+        ComputeHeight();
+        child.ComputeHeight();
+        return risen;
+    }
+
+    // Ask for memory early: for that of both children, of which one or both are read next, and for
+    // what key and value point to.
+    void FetchSides() const noexcept {
+        for (Link const* link : side) {
+            // The link may be null; its address is only a hint here.
+            std::uintptr_t const at = reinterpret_cast<std::uintptr_t>(link);
+            __builtin_prefetch(reinterpret_cast<void const*>(at));
+            __builtin_prefetch(reinterpret_cast<void const*>(at + 64));
         }
-        if (difference < -1) {
-            cow_BtreeNode& child = left->Get();
-            Link* const risen = std::exchange(left, child.right);
-            child.right = link;
-            ComputeHeight();
-            child.ComputeHeight();
-            return risen;
-        }
-        return nullptr;
+    }
+    void FetchContent() const noexcept {
+        cow_BtreeOrder<K>::Fetch(key);
+        if constexpr (std::is_base_of_v<cow_HandleBase, V>) __builtin_prefetch(value.CountCell());
     }
 
     K const& Key() const noexcept { return key; }
     V const& Value() const noexcept { return value; }
     V& Value() noexcept { return value; }
-    Link const* Left() const noexcept { return left; }
-    Link const* Right() const noexcept { return right; }
+    Link const* Left() const noexcept { return side[0]; }
+    Link const* Right() const noexcept { return side[1]; }
     int Height() const noexcept { return height; }
 
+    // Link, node and count cell side by side, since every step down the tree needs them together.
     static Link* NewLink(K const& key, V const& value) {
-        cow_OwnedBlock block(mem_OperatorNewThrow(sizeof(Link)));
-        Link* const link = ::new (block.Get()) Link(cow_New<cow_BtreeNode>(key, value));
-        block.Release();
-        return link;
+        mem_Trio const trio =
+            mem_OperatorNewTrioThrow(sizeof(Link), sizeof(cow_BtreeNode), sizeof(int));
+        cow_OwnedBlock first(trio.first), second(trio.second), third(trio.third);
+        cow_BtreeNode* const node = ::new (second.Get()) cow_BtreeNode(key, value);
+        second.Release();
+        return ::new (first.Release()) Link(node, static_cast<int*>(third.Release()));
     }
     static Link* CopyLink(Link const* link) {
         if (!link) return nullptr;
@@ -158,6 +174,13 @@ public:
     }
     static void ReleaseLink(Link* link) noexcept {
         if (!link) return;
+        if (link->Count() == 1) {
+            cow_BtreeNode* const node = link->GetPtr();
+            int* const cell = link->ReleaseWords();
+            node->~cow_BtreeNode();
+            mem_FreeTrio(mem_Trio{link, node, cell});
+            return;
+        }
         link->~Link();
         mem_Free(link);
     }
@@ -177,37 +200,36 @@ private:
 
     static int HeightOf(Link const* link) noexcept { return link ? link->GetPtr()->height : 0; }
     void ComputeHeight() noexcept {
-        int const fromLeft = left ? left->GetPtr()->height + 1 : 0;
-        int const fromRight = right ? right->GetPtr()->height + 1 : 0;
+        int const fromLeft = side[0] ? side[0]->GetPtr()->height + 1 : 0;
+        int const fromRight = side[1] ? side[1]->GetPtr()->height + 1 : 0;
         height = fromLeft > fromRight ? fromLeft : fromRight;
     }
-
     // The link to stand in this node's place: its one child, or the smallest node of its right
     // side, already joined to both sides. All detaching comes before the first change.
     Link* TakeReplacement() {
-        if (!right) return left;
-        if (!left) return right;
-        Link* smallest = right;
-        cow_BtreeNode* node = &right->Get();
+        if (!side[1]) return side[0];
+        if (!side[0]) return side[1];
+        Link* smallest = side[1];
+        cow_BtreeNode* node = &smallest->Get();
         cow_BtreeNode* parent = nullptr;
-        while (node->left) {
+        while (node->side[0]) {
             parent = node;
-            smallest = node->left;
+            smallest = node->side[0];
             node = &smallest->Get();
         }
         if (parent) {
-            parent->left = node->right;
-            node->right = right;
+            parent->side[0] = node->side[1];
+            node->side[1] = side[1];
             parent->ComputeHeight();
         }
-        node->left = left;
+        node->side[0] = side[0];
         node->ComputeHeight();
         return smallest;
     }
 
     V value;
     K key;
-    Link* left = nullptr;
-    Link* right = nullptr;
+    // Left and right.
+    Link* side[2] = {nullptr, nullptr};
     int height = 0;
 };

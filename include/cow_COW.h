@@ -11,6 +11,7 @@ template <class T, class Policy>
 class cow_COW : public cow_CountedHld<T> {
 public:
     explicit cow_COW(T* object) : cow_CountedHld<T>(object) {}
+    cow_COW(T* object, int* cell) noexcept : cow_CountedHld<T>(object, cell) {}
     explicit cow_COW(T const& value) : cow_CountedHld<T>(Policy::Copy(value)) {}
     cow_COW(cow_COW const&) noexcept = default;
     cow_COW(cow_ShareErased share, cow_HandleBase const& erased) noexcept

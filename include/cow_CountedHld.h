@@ -15,6 +15,12 @@ public:
         count = NewCount();
         referent = owned.Release();
     }
+    // With a block of its own for the count cell, made by mem_* as every cell is.
+    cow_CountedHld(T* object, int* cell) noexcept {
+        *cell = 1;
+        count = cell;
+        referent = object;
+    }
     cow_CountedHld(cow_CountedHld const&) noexcept = default;
     cow_CountedHld(cow_ShareErased, cow_HandleBase const& erased) noexcept
         : cow_HandleBase(erased) {}
@@ -52,6 +58,13 @@ public:
     }
 
     void Swap(cow_CountedHld& other) noexcept { this->SwapWords(other); }
+
+    // Leaves the handle without words, for one who ends object and cell himself: the only thing the
+    // handle may still do is to be forgotten. Gives the cell.
+    int* ReleaseWords() noexcept {
+        referent = nullptr;
+        return std::exchange(count, nullptr);
+    }
 
     // A reference to null where there is no object: callers who cannot know ask GetPtr().
     T const& GetRef() const noexcept { return *GetPtr(); }

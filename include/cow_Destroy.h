@@ -16,7 +16,8 @@ struct cow_Destroyer {
         if constexpr (std::has_virtual_destructor_v<T>) {
             delete object;
         } else {
-            object->~T();
+            // Qualified, which says that the object is a T and of no class derived from it.
+            if constexpr (std::is_class_v<T>) object->T::~T();
             mem_Free(object);
         }
     }

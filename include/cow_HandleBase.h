@@ -15,6 +15,8 @@ public:
     void* ErasedReferent() const noexcept { return referent; }
     // How many handles share the referent.
     int Count() const noexcept { return *count; }
+    // Where the count stands: for those who fetch it early.
+    int const* CountCell() const noexcept { return count; }
     bool IsNull() const noexcept { return referent == nullptr; }
     bool SharesWith(cow_HandleBase const& other) const noexcept { return count == other.count; }
 

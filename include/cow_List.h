@@ -56,16 +56,23 @@ public:
         while (size < n) Append(copy);
     }
     void Append(T const& value) {
-        if (*tableCount >= 2 || !TableFits(size + 1)) ResizeTable(ops, size + 1);
-        cow_ListPage const* const page = table[PageOf(size)];
-        if (!page || page->count != 1) MakeWritable(ops, size, size);
-        Put(size, value);
+        int const position = size + start;
+        int const entry = position >> shift;
+        if (*tableCount == 1 && ((entry >> 4) + 1) << 4 == tableLength && IsOwn(entry)) {
+            PutInto(table[entry], position, value);
+        } else {
+            AppendSlowly(value);
+        }
         ++size;
     }
     void Prepend(T const& value) {
-        MakeRoomAtFront(ops);
-        MakeWritable(ops, -1, -1);
-        Put(-1, value);
+        int const position = start - 1;
+        int const entry = position >> shift;
+        if (position >= 0 && *tableCount == 1 && IsOwn(entry)) {
+            PutInto(table[entry], position, value);
+        } else {
+            PrependSlowly(value);
+        }
         --start;
         ++size;
     }
@@ -250,9 +257,9 @@ private:
 
     // Copy-constructs into a slot of a page of this list's own. What a truncation left there is
     // ended first.
-    void Put(int i, T const& value) {
-        cow_ListPage const* const page = table[PageOf(i)];
-        int const slot = SlotOf(i);
+    void Put(int i, T const& value) { PutInto(table[PageOf(i)], i + start, value); }
+    void PutInto(cow_ListPage const* page, int position, T const& value) {
+        int const slot = position & ((1 << shift) - 1);
         T* const place = static_cast<T*>(page->slots) + slot;
         if constexpr (tracks) {
             std::uint64_t& built = BuiltBits(page, sizeof(T), shift)[slot >> 6];
@@ -266,6 +273,17 @@ private:
         } else {
             ::new (static_cast<void*>(place)) T(value);
         }
+    }
+    bool IsOwn(int entry) const noexcept { return table[entry] && table[entry]->count == 1; }
+    [[gnu::noinline]] void AppendSlowly(T const& value) {
+        ResizeTable(ops, size + 1);
+        MakeWritable(ops, size, size);
+        Put(size, value);
+    }
+    [[gnu::noinline]] void PrependSlowly(T const& value) {
+        MakeRoomAtFront(ops);
+        MakeWritable(ops, -1, -1);
+        Put(-1, value);
     }
     void Take(int i) noexcept {
         if constexpr (tracks) {

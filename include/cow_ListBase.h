@@ -49,8 +49,6 @@ protected:
         if (*tableCount >= 2) DetachTable();
     }
     void ResizeTable(cow_ListElementOps const& ops, int n);
-    // Whether ResizeTable for n elements would leave the table as it is.
-    bool TableFits(int n) const noexcept { return TableLengthFor(n) == tableLength; }
     // Makes the pages from that of index a to that of b exist and be this list's own. -1 is allowed
     // where start is above 0.
     void MakeWritable(cow_ListElementOps const& ops, int a, int b);
@@ -77,7 +75,21 @@ protected:
     cow_ListPage** table;
 
 private:
+    // Stands before the first entry of every table: how many entries its block has room for, and
+    // how many of them lie unused before the first. Thus a table grows at either end without being
+    // copied each time.
+    struct TableHead {
+        int capacity;
+        int before;
+    };
+
     void Initialize(int hint);
+    TableHead& Head() const noexcept { return reinterpret_cast<TableHead*>(table)[-1]; }
+    static cow_ListPage** NewTable(int capacity, int before);
+    static void FreeTable(cow_ListPage** freed) noexcept;
+    void MoveTable(long long capacity, int before, int kept);
+    void GrowBehind(int length);
+    void GrowBefore(int entries);
     void DetachTable();
     long long TableLengthFor(int n) const noexcept {
         long long const needed = n ? static_cast<long long>(n) + start : 0;

@@ -35,7 +35,8 @@ private:
 };
 
 // A small sorted map for the tables of primitives. Copies share everything; a write copies one
-// path.
+// path. A change that fails for want of memory leaves the map as it was, since it works on a path
+// of its own.
 template <class K, class V>
 class cow_Map {
 public:
@@ -47,14 +48,18 @@ public:
     // False for a key that is there, whose value stays.
     bool Insert(K const& key, V const& value) {
         if (ConstFind(key)) return false;
-        Insert(root, key, value);
+        Handle changed(root);
+        Insert(changed, key, value);
+        root = changed;
         ++size;
         return true;
     }
     // False for a key that is not there.
     bool Remove(K const& key) {
         if (!ConstFind(key)) return false;
-        Remove(root, key);
+        Handle changed(root);
+        Remove(changed, key);
+        root = changed;
         --size;
         return true;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cls_xc1DArrayList.h"
+#include "mem_AllocationOperators.h"
 
 /// A list of options in an object: a list of handles with an identity of its own. Its persistence
 /// is that of cls_xc1DArrayList.

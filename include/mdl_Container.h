@@ -6,4 +6,7 @@ template <class K, class Tag>
 class mdl_Container {
 public:
     virtual ~mdl_Container() = default;
+    /// Null where nothing is held under the key.
+    virtual Tag* Find(K const& key) = 0;
+    virtual Tag const* ConstFind(K const& key) const = 0;
 };

@@ -209,9 +209,8 @@ public:
     void* MutableObject(void* field, int index) const override { return &As(field).Get(index); }
     unsigned DynTypeIdOf(void const*) const override { return T::TypeId(); }
     void Adopt(void* field, void* object) const override {
-        T* const element = static_cast<T*>(object);
-        As(field).Append(*element);
-        cow_Destroy(element);
+        cow_Owned<T> const element(static_cast<T*>(object));
+        As(field).Append(*element.Get());
     }
     void Clear(void* field) const override { As(field).Resize(0); }
 
@@ -222,20 +221,6 @@ private:
     static cls_xo1DArrayList<T> const& As(void const* field) {
         return *static_cast<cls_xo1DArrayList<T> const*>(field);
     }
-};
-
-template <unsigned typeId>
-class mdl_PendingField final : public mdl_FieldType {
-public:
-    constexpr mdl_PendingField()
-        : mdl_FieldType(mdl_FieldKind::Pending, cls_AttributeObject, cls_CollectionNone) {}
-    unsigned Arg() const override { return typeId; }
-    void Write(void const*, cls_WriteVisitor const& visitor,
-               cls_FieldHandle const& handle) const override {
-        visitor.Agent().WriteNull(handle);
-    }
-    void Read(void*, cls_ReadVisitor const&, cls_FieldHandle const&) const override {}
-    bool Same(void const*, void const*) const override { return true; }
 };
 
 // ---- the operations of a C++ type ------------------------------------------------------------
@@ -294,24 +279,22 @@ template <mdl_DescribedObject T>
 struct mdl_FieldTypeOf<T> {
     static constexpr mdl_ObjectField<T> type{};
 };
-template <class T, class P>
+template <mdl_DescribedObject T, class P>
 struct mdl_FieldTypeOf<cow_ArrayCOW<T, P>> {
     static constexpr mdl_OptionField<cow_ArrayCOW<T, P>, T> type{};
 };
-template <class V, class T>
+template <class V, mdl_DescribedObject T>
 struct mdl_FieldTypeOf<mdl_1DArrayList<V, T>> {
     static constexpr mdl_OptionListField<mdl_1DArrayList<V, T>, V, T> type{};
 };
-template <class T>
+template <mdl_DescribedObject T>
 struct mdl_FieldTypeOf<cls_xo1DArrayList<T>> {
     static constexpr mdl_ObjectListField<T> type{};
 };
-template <unsigned typeId>
-struct mdl_FieldTypeOf<mdl_Pending<typeId>> {
-    static constexpr mdl_PendingField<typeId> type{};
-};
 
+/// Asks for the specialisation alone, not for its instance: within a class, where a field's line
+/// asks, the literals of the class's own enumerations are not yet to be had.
 template <class T>
 concept mdl_DescribableField = requires {
-    mdl_FieldTypeOf<T>::type;
+    sizeof(mdl_FieldTypeOf<T>);
 };

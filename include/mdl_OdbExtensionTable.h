@@ -11,7 +11,10 @@ template <class E>
 class mdl_OdbExtensionTable {
 public:
     /// Takes ownership; a present name's extension goes.
-    void Put(cow_String const& name, E* extension) { m_extensions[name.Text()].reset(extension); }
+    void Put(cow_String const& name, E* extension) {
+        std::unique_ptr<E> owned(extension);
+        m_extensions[name.Text()] = std::move(owned);
+    }
     bool Remove(cow_String const& name) { return m_extensions.erase(name.Text()) > 0; }
     /// Null where there is none.
     E* Find(cow_String const& name) const {

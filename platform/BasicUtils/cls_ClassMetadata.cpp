@@ -12,12 +12,16 @@ cls_ClassMetadata::cls_ClassMetadata(cow_String const& name, unsigned typeId, in
 
 cls_ClassMetadata::~cls_ClassMetadata() = default;
 
-void cls_ClassMetadata::DBWrite(void const*, cls_WriteVisitor const&) const {}
+void cls_ClassMetadata::DBWrite(void const* object, cls_WriteVisitor const& visitor) const {
+    if (m_write) m_write(object, visitor);
+}
 
-void cls_ClassMetadata::DeleteObject(void const*) const {}
+void cls_ClassMetadata::DeleteObject(void const* object) const {
+    if (object && m_destroy) m_destroy(const_cast<void*>(object));
+}
 
 void (*cls_ClassMetadata::Destroyer() const)(void*) {
-    return [](void*) {};
+    return m_destroy ? m_destroy : [](void*) {};
 }
 
 void cls_ClassMetadata::DeleteCow(cow_HandleBase* handle) const {
@@ -46,6 +50,14 @@ cls_ClassMetadata& cls_ClassMetadata::AddAttribute(cls_FieldHandle const& field,
 
 cls_ClassMetadata& cls_ClassMetadata::AddTableExtentQuantum(int quantum) {
     m_quantum = quantum;
+    return *this;
+}
+
+cls_ClassMetadata& cls_ClassMetadata::AddOperations(void (*write)(void const*,
+                                                                  cls_WriteVisitor const&),
+                                                    void (*destroy)(void*)) {
+    m_write = write;
+    m_destroy = destroy;
     return *this;
 }
 

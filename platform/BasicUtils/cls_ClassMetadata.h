@@ -31,24 +31,28 @@ public:
     cls_ClassMetadata(cls_ClassMetadata const&) = delete;
     cls_ClassMetadata& operator=(cls_ClassMetadata const&) = delete;
 
-    /// Writes an object of this class; a plain metadata object has nothing to write it with.
+    /// Writes an object of this class, where the metadata knows what with.
     virtual void DBWrite(void const* object, cls_WriteVisitor const& visitor) const;
     /// Destroys and frees an object of this class. Null is allowed.
     virtual void DeleteObject(void const* object) const;
-    /// The same as a function: what a type-erased handle on such an object ends it with.
-    virtual void (*Destroyer() const)(void*);
     /// Releases a type-erased handle of this class and frees it, through AddDtor's function.
     virtual void DeleteCow(cow_HandleBase* handle) const;
     /// A new object read from a record; null where the class has no read constructor.
     virtual void* Ctor(cls_ReadVisitor const& visitor) const;
     /// Whether Ctor makes objects.
     virtual bool HasCtor() const;
+    /// DeleteObject as a function: what a type-erased handle on such an object ends it with.
+    virtual void (*Destroyer() const)(void*);
 
     /// Each returns the metadata for chaining.
     cls_ClassMetadata& AddDtor(void (*release)(cow_HandleBase*));
     cls_ClassMetadata& AddAttribute(cls_FieldHandle const& field, cls_AttributeType type,
                                     unsigned arg, cls_CollectionType collection);
     cls_ClassMetadata& AddTableExtentQuantum(int quantum);
+    /// What a plain metadata object writes and ends objects of its class with; an adapter knows
+    /// both by the class's type.
+    cls_ClassMetadata& AddOperations(void (*write)(void const*, cls_WriteVisitor const&),
+                                     void (*destroy)(void*));
 
     cow_String const& Name() const { return m_name; }
     unsigned TypeId() const { return m_typeId; }
@@ -65,6 +69,8 @@ private:
     unsigned m_parentTypeId;
     int m_quantum = 0;
     void (*m_release)(cow_HandleBase*) = nullptr;
+    void (*m_write)(void const*, cls_WriteVisitor const&) = nullptr;
+    void (*m_destroy)(void*) = nullptr;
     std::vector<cls_Attribute> m_attributes;
 };
 

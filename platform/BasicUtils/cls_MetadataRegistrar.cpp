@@ -1,6 +1,7 @@
 #include "cls_MetadataRegistrar.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 cls_MetadataRegistrar::cls_MetadataRegistrar() = default;
 cls_MetadataRegistrar::~cls_MetadataRegistrar() = default;
@@ -18,7 +19,10 @@ void cls_MetadataRegistrar::initClassMetadata(Callback callback, unsigned mask) 
 }
 
 cls_ClassRegistrar const& cls_MetadataRegistrar::Domain(cls_MetadataDomain domain) {
-    std::unique_ptr<OpenDomain>& open = m_domains[domain == 4 ? 2 : domain - 1];
+    // A mask of several domains is none.
+    if (domain != cls_DomainLibrary && domain != cls_DomainMemory && domain != cls_DomainDatabase)
+        std::abort();
+    std::unique_ptr<OpenDomain>& open = m_domains[domain == cls_DomainDatabase ? 2 : domain - 1];
     if (!open) open = std::make_unique<OpenDomain>();
     for (; open->seen < m_registrations.size(); ++open->seen) {
         Registration const& registration = m_registrations[open->seen];

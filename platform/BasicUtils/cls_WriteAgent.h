@@ -19,8 +19,11 @@ class cls_WriteAgent {
 public:
     virtual void WriteNull(cls_FieldHandle const& field) = 0;
     virtual void WriteString(cls_FieldHandle const& field, cow_String const& value) = 0;
-    /// Text that lives as long as the process: an enumeration's literal.
-    virtual void WriteLiteral(cls_FieldHandle const& field, char const* literal) = 0;
+    /// Text that lives as long as the process: an enumeration's literal. A store that can do better
+    /// than with any other text overrides this.
+    virtual void WriteLiteral(cls_FieldHandle const& field, char const* literal) {
+        WriteString(field, cow_String(literal));
+    }
     virtual void WriteDouble(cls_FieldHandle const& field, double const& value) = 0;
     virtual void WriteInt(cls_FieldHandle const& field, int const& value) = 0;
     virtual void WriteBool(cls_FieldHandle const& field, bool const& value) = 0;
@@ -87,6 +90,22 @@ public:
     virtual bool MustDelete() const = 0;
     virtual void WriteNull(unsigned typeId, int key) = 0;
     virtual cls_WriteAgent* ElementAgent(int key) = 0;
+};
+
+/// Lets go of a collection's writer when its scope ends, after the last element: only then does the
+/// writer know whether the caller is to delete it. Also on the way out of a failure.
+template <class Writer>
+class cls_WriterScope {
+public:
+    explicit cls_WriterScope(Writer* writer) : m_writer(writer) {}
+    ~cls_WriterScope() {
+        if (m_writer->MustDelete()) delete m_writer;
+    }
+    cls_WriterScope(cls_WriterScope const&) = delete;
+    cls_WriterScope& operator=(cls_WriterScope const&) = delete;
+
+private:
+    Writer* m_writer;
 };
 
 class cls_WriteRequestListObj : public cls_AgentRequest {

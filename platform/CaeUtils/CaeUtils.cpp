@@ -1,6 +1,7 @@
 #include "CaeUtils.h"
 
 #include "cls_MetadataRegistrar.h"
+#include "mdl_PropertyTable.h"
 #include "mdl_Repository.h"
 #include "nex_TypeIds.h"
 #include "omi_Singleton.h"
@@ -53,6 +54,7 @@ void UTI_CaeUtils_initialize(int& count) {
     cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
     registrar.initClassMetadata(mdl_Extension::InitializeMetadata, cls_DomainsAll);
     registrar.initClassMetadata(mdl_Repository::InitializeMetadata, cls_DomainsAll);
+    registrar.initClassMetadata(mdl_PropertyTable::InitializeMetadata, cls_DomainsAll);
 }
 
 void UTI_CaeUtils_finalize(int& count) { mdlGuard.Lower(count); }

@@ -1,11 +1,11 @@
 #include "DDB_DeepCopy.h"
 
+#include <deque>
 #include <list>
 #include <map>
 #include <memory>
 #include <string>
 #include <variant>
-#include <vector>
 
 #include "cls_MetadataRegistrar.h"
 #include "cls_ReadVisitor.h"
@@ -36,7 +36,7 @@ struct Record {
     std::map<std::string, std::variant<int, double, bool, cow_String, char const*>> values;
     std::map<std::string, RecordPtr> objects;
     RecordPtr base;
-    std::vector<Element> elements;
+    std::deque<Element> elements;  // growing moves none: an element is written where it stands
     cow_List<double> doubles;
     cow_List<int> ints;
     cow_Map<cow_String, float> floats;
@@ -115,14 +115,10 @@ private:
     RecordPtr& m_slot;
 };
 
-// Elements are added to a vector that may move, so each is written into a place of its own first.
 template <class Base, class... Key>
 class CollectionWriter : public Base {
 public:
-    explicit CollectionWriter(std::vector<Element>& elements) : m_elements(elements) {}
-    ~CollectionWriter() override {
-        for (Element& element : m_pending) m_elements.push_back(std::move(element));
-    }
+    explicit CollectionWriter(std::deque<Element>& elements) : m_elements(elements) {}
     bool MustDelete() const override { return true; }
     void WriteNull(unsigned, Key... key) override { Add(key...); }
     cls_WriteAgent* ElementAgent(Key... key) override {
@@ -130,20 +126,19 @@ public:
     }
 
 private:
-    Element& Add() { return m_pending.emplace_back(); }
+    Element& Add() { return m_elements.emplace_back(); }
     Element& Add(cow_String const& key) {
-        Element& element = m_pending.emplace_back();
+        Element& element = m_elements.emplace_back();
         element.textKey = cow_String(key.Text(), key.Length());
         return element;
     }
     Element& Add(int key) {
-        Element& element = m_pending.emplace_back();
+        Element& element = m_elements.emplace_back();
         element.intKey = key;
         return element;
     }
 
-    std::vector<Element>& m_elements;
-    std::list<Element> m_pending;
+    std::deque<Element>& m_elements;
 };
 
 cls_WriteListObj* MemoryWriteAgent::OpenList(int) {
@@ -244,7 +239,9 @@ cow_HandleBase const& Reading::Object(Record* record) {
     if (!metadata || !metadata->HasCtor())
         Fail("A class that cannot be rebuilt in memory stands in a deep copy.", __LINE__);
     cls_ReadVisitor const visitor(new MemoryMemento(*this, record));
-    return handles.emplace_back(metadata->Ctor(visitor), metadata->Destroyer());
+    // The handle owns the object before the list makes room for it.
+    cow_ErasedHandle const fresh(metadata->Ctor(visitor), metadata->Destroyer());
+    return handles.emplace_back(fresh);
 }
 
 template <class Base>

@@ -32,14 +32,19 @@ struct mdl_RowIndex {};
 
 template <class T>
 constexpr mdl_FieldRow mdl_MakeRow(char const* name, char const* script, std::size_t offset) {
-    static_assert(
-        mdl_DescribableField<T>,
-        "DD_FIELD: no field can hold this type; see mdl_FieldTypeOf.h for those that can");
+    // The field's own line has said what is wrong with another type.
     if constexpr (mdl_DescribableField<T>)
         return {name, script, offset, &mdl_FieldTypeOf<T>::type};
     else
         return {};
 }
+
+// A mistake in a field's line is reported once, at that line. These stand between the assertions
+// and the concepts, whose failed requirements would be listed under the message.
+template <class T>
+inline constexpr bool mdl_CanBeField = mdl_DescribableField<T>;
+template <class T>
+inline constexpr bool mdl_CanBeOption = mdl_DescribedObject<T>;
 
 /// The rows of class C, one for each line.
 template <class C>
@@ -136,22 +141,45 @@ public:                                                            \
 #define DD_FIELD(Type, name, ...) DD_FIELD_AS(Type, name, #name __VA_OPT__(, ) __VA_ARGS__)
 
 /// A field whose script name differs from its schema name.
-#define DD_FIELD_AS(Type, name, script, ...)                                         \
-    Type name{__VA_ARGS__};                                                          \
-    static constexpr omn_FixedString name##Cmd() { return omn_FixedString(script); } \
-    static constexpr mdl_FieldRow ddRow(mdl_RowIndex<__COUNTER__ - ddFirst - 1>) {   \
-        return mdl_MakeRow<Type>(#name, script, offsetof(ddSelf, name));             \
-    }
+#define DD_FIELD_AS(Type, name, script, ...) \
+    DD_CHECK_FIELD(Type, name)               \
+    DD_COMMAND(name, script)                 \
+    DD_ROW(Type, name, script, __VA_ARGS__)
+
+/// A field of a class that scripts do not know: there is no nameCmd().
+#define DD_FIELD_UNSCRIPTED(Type, name, ...) \
+    DD_CHECK_FIELD(Type, name)               \
+    DD_ROW(Type, name, #name, __VA_ARGS__)
 
 /// An optional object, absent by default. Held directly: its static class is its class.
 #define DD_OPTION(Held, name) DD_OPTION_AS(Held, name, #name)
-#define DD_OPTION_AS(Held, name, script)                       \
-    using name##Handle = cow_ArrayCOW<Held, cow_Direct<Held>>; \
-    DD_FIELD_AS(name##Handle, name, script)
+#define DD_OPTION_AS(Held, name, script) \
+    DD_CHECK_OPTION(Held, name)          \
+    DD_COMMAND(name, script)             \
+    DD_ROW(name##Handle, name, script)
 
-/// An option member whose class has no description yet: registered by number, always absent.
-#define DD_PENDING(id, name) DD_PENDING_AS(id, name, #name)
-#define DD_PENDING_AS(id, name, script) DD_FIELD_AS(mdl_Pending<id>, name, script)
+#define DD_OPTION_UNSCRIPTED(Held, name) \
+    DD_CHECK_OPTION(Held, name)          \
+    DD_ROW(name##Handle, name, #name)
+
+#define DD_CHECK_FIELD(Type, name)                                                    \
+    static_assert(mdl_CanBeField<Type>, "field " #name ": no field can hold a " #Type \
+                                        "; mdl_FieldTypeOf.h has the types that one can");
+
+#define DD_CHECK_OPTION(Held, name)                                                      \
+    static_assert(mdl_CanBeOption<Held>,                                                 \
+                  "option " #name ": " #Held " is not a class described with DD_CLASS"); \
+    using name##Handle = cow_ArrayCOW<Held, cow_Direct<Held>>;
+
+#define DD_COMMAND(name, script) \
+    static constexpr omn_FixedString name##Cmd() { return omn_FixedString(script); }
+
+// The default names its type, so that a wrong one is one error and not two.
+#define DD_ROW(Type, name, script, ...)                                            \
+    Type name __VA_OPT__(= Type){__VA_ARGS__};                                     \
+    static constexpr mdl_FieldRow ddRow(mdl_RowIndex<__COUNTER__ - ddFirst - 1>) { \
+        return mdl_MakeRow<Type>(#name, script, offsetof(ddSelf, name));           \
+    }
 
 /// Ends the fields with the object's own identity.
 #define DD_END                                    \

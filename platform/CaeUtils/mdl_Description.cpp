@@ -3,7 +3,8 @@
 #include <cstring>
 #include <map>
 
-#include "cls_ClassRegistrar.h"
+#include "cls_MetadataRegistrar.h"
+#include "omi_Singleton.h"
 
 mdl_Description::mdl_Description(mdl_ClassFacts const& facts, mdl_FieldRow const* rows, int count)
     : m_facts(facts) {
@@ -48,28 +49,35 @@ bool mdl_Description::Same(void const* a, void const* b) const {
     return true;
 }
 
-bool mdl_SameObjects(unsigned typeIdA, void const* a, unsigned typeIdB, void const* b) {
-    if (typeIdA != typeIdB) return false;
-    mdl_Description const* description = mdl_Description::Find(typeIdA);
-    return description && description->Same(a, b);
-}
-
 namespace {
 
-// Entered while the library starts, on one thread, and only read afterwards.
+// Entered as a metadata domain runs the functions of its classes.
 std::map<unsigned, mdl_Description const*>& Directory() {
     static std::map<unsigned, mdl_Description const*> directory;
     return directory;
+}
+
+// A domain runs its functions when somebody first asks for it, so that nothing may have entered
+// yet. Costs three comparisons once all have run.
+void EnterRegistered() {
+    cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
+    for (cls_MetadataDomain domain : {cls_DomainMemory, cls_DomainLibrary, cls_DomainDatabase})
+        registrar.Domain(domain);
 }
 
 }  // namespace
 
 mdl_Description const* mdl_Description::Find(unsigned typeId) {
     auto found = Directory().find(typeId);
+    if (found == Directory().end()) {
+        EnterRegistered();
+        found = Directory().find(typeId);
+    }
     return found == Directory().end() ? nullptr : found->second;
 }
 
 mdl_Description const* mdl_Description::FindByConstructor(char const* constructor) {
+    EnterRegistered();
     for (auto const& [typeId, description] : Directory())
         if (description->Constructor() && std::strcmp(description->Constructor(), constructor) == 0)
             return description;

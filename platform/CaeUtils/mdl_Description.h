@@ -6,6 +6,7 @@
 #include "mdl_FieldType.h"
 #include "mdl_RuleVisitor.h"
 
+class cls_ClassMetadata;
 class cls_ClassRegistrar;
 
 /// One described field, as its line in the class states it.
@@ -93,7 +94,7 @@ public:
     bool Same(void const* a, void const* b) const;
 
     /// The description of a registered class, by its TypeId; null for a class that has none.
-    /// InitializeMetadata enters a class here.
+    /// InitializeMetadata enters a class here, and whoever asks runs those that have not run yet.
     static mdl_Description const* Find(unsigned typeId);
     static mdl_Description const* FindByConstructor(char const* constructor);
     static void Enter(mdl_Description const& description);
@@ -103,10 +104,6 @@ private:
     std::vector<mdl_Field> m_fields;
 };
 
-/// Whether the two objects, of one described class by their dynamic type, hold the same content.
-bool mdl_SameObjects(unsigned typeIdA, void const* a, unsigned typeIdB, void const* b);
-
 /// Registers a described class: its metadata object, its release function and its attributes.
-class cls_ClassMetadata;
 void mdl_RegisterDescribed(cls_ClassRegistrar& registrar, cls_ClassMetadata* metadata,
                            void (*release)(cow_HandleBase*), mdl_Description const& description);

@@ -172,7 +172,13 @@ bool mdl_ObjectFieldBase::Same(void const* a, void const* b) const {
         void const* x = ConstObject(a, i);
         void const* y = ConstObject(b, i);
         if (x == y) continue;
-        if (!x || !y || !mdl_SameObjects(DynTypeIdOf(x), x, DynTypeIdOf(y), y)) return false;
+        if (!x || !y) return false;
+        unsigned const typeId = DynTypeIdOf(x);
+        if (typeId != DynTypeIdOf(y)) return false;
+        // The declared class is known without having been registered.
+        mdl_Description const* description =
+            typeId == Held()->TypeId() ? Held() : mdl_Description::Find(typeId);
+        if (!description || !description->Same(x, y)) return false;
     }
     return true;
 }

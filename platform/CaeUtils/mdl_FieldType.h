@@ -20,8 +20,7 @@ enum class mdl_FieldKind {
     IntList,     ///< cls_xp1DArrayListInt
     DoubleList,  ///< cls_xp1DArrayListDouble
     FloatMap,    ///< cls_xpMapString2Float
-    Array,       ///< cls_xp2DArrayDouble
-    Pending      ///< a registered attribute whose class holds no data here
+    Array        ///< cls_xp2DArrayDouble
 };
 
 /// The operations of one type of field: one immortal instance a C++ type, not one a field. The
@@ -70,7 +69,7 @@ public:
     virtual unsigned DynTypeIdOf(void const* object) const;
     /// Takes ownership of \p object (null for none): sets an option, or appends to a list.
     virtual void Adopt(void* field, void* object) const;
-    /// The address that two owners share if they share the object: its handle's referent.
+    /// Back to absent, or to an empty list.
     virtual void Clear(void* field) const;
 
 protected:

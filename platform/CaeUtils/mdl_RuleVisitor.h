@@ -5,11 +5,6 @@
 
 class mdl_Description;
 
-/// The place of an option whose class is registered by number alone: the attribute is written as
-/// null and read as nothing, and there is nothing to ask.
-template <unsigned typeId>
-struct mdl_Pending {};
-
 /// What a class's rules need of their module: the texts of its error codes, and its assertion.
 struct mdl_Module {
     char const* prefix;                 ///< "kma"
@@ -44,8 +39,6 @@ public:
     void Ask(T const& member) {
         Object(&member, 0, &member, AskedAs<T>());
     }
-    template <unsigned typeId>
-    void Ask(mdl_Pending<typeId> const&) {}
     /// Each element of a list, in order; elements without a value have nothing to ask.
     template <class List>
     void AskEach(List const& list) {

@@ -3,10 +3,18 @@
 #include <algorithm>
 
 void omu_ChangeHistory::addChange(omu_PrimTuple change) {
-    // A copy of the list, so that a listener may change it.
+    if (m_keeping > 0) m_kept.push_back(change);
+    if (m_listeners.empty()) return;
+    // A copy of the list, so that a listener may change it. One that was taken away meanwhile is
+    // not told: what it would write to may be gone.
     std::vector<Entry> const listeners = m_listeners;
-    for (Entry const& entry : listeners) entry.listener(change);
-    if (m_keeping > 0) m_kept.push_back(std::move(change));
+    for (Entry const& entry : listeners)
+        if (Listens(entry.number)) entry.listener(change);
+}
+
+bool omu_ChangeHistory::Listens(int number) const {
+    return std::any_of(m_listeners.begin(), m_listeners.end(),
+                       [&](Entry const& e) { return e.number == number; });
 }
 
 int omu_ChangeHistory::Listen(Listener listener) {

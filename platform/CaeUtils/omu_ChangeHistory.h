@@ -33,6 +33,8 @@ private:
         int number;
         Listener listener;
     };
+    bool Listens(int number) const;
+
     std::vector<Entry> m_listeners;
     std::vector<omu_PrimTuple> m_kept;
     int m_nextNumber = 1;

@@ -1,6 +1,6 @@
 #include "omu_PrimTuple.h"
 
-#include <algorithm>
+#include <memory>
 #include <string>
 
 #include "cls_WriteVisitor.h"
@@ -54,8 +54,8 @@ unsigned omu_PrimTuple::TypeId() { return omu_PrimTupleTypeId; }
 void omu_PrimTuple::DBWrite(cls_WriteVisitor const& visitor) const {
     if (visitor.StartWrite(TypeId(), m_uid) == 0) return;
     {
-        cls_WriteVisitor base(visitor, omu_Primitive::TypeId());
-        omu_Primitive::DBWrite(base);
+        cls_WriteVisitor base(visitor, omu_PrimSequence::TypeId());
+        omu_PrimSequence::DBWrite(base);
     }
     static cls_FieldHandle const text(0, cow_String("value"));
     visitor.Agent().WriteString(text, AsRepr());
@@ -65,19 +65,20 @@ int omu_PrimTuple::Size() const { return m_members.Size(); }
 omu_Primitive* omu_PrimTuple::Index(int index) const { return Get(index).Copy(); }
 
 omu_PrimSequence* omu_PrimTuple::Slice(int from, int to) const {
-    omu_PrimTuple* part = new omu_PrimTuple(0, m_open);
+    auto part = std::make_unique<omu_PrimTuple>(0, m_open);
     part->m_members = m_members.Slice(from, to);
-    return part;
+    return part.release();
 }
 
 omu_PrimSequence* omu_PrimTuple::Repeat(int times) const {
-    omu_PrimTuple* result = new omu_PrimTuple(std::max(times, 0) * Size(), m_open);
+    auto result = std::make_unique<omu_PrimTuple>(0, m_open);
     for (int i = 0; i < times; ++i) result->m_members.Concatenate(m_members);
-    return result;
+    return result.release();
 }
 
 omu_PrimSequence* omu_PrimTuple::Concat(omu_PrimSequence* other) const {
-    omu_PrimTuple* result = new omu_PrimTuple(*this);
-    for (int i = 0; i < other->Size(); ++i) result->Adopt(other->Index(i));
-    return result;
+    auto result = std::make_unique<omu_PrimTuple>(*this);
+    int const added = other->Size();
+    for (int i = 0; i < added; ++i) result->Adopt(other->Index(i));
+    return result.release();
 }

@@ -30,11 +30,11 @@ cow_String omu_PrimString::AsString(int) const { return m_value; }
 cow_String omu_PrimString::AsRepr() const {
     static char const hex[] = "0123456789abcdef";
     std::string text = "'";
-    for (char const* p = m_value.Text(); *p; ++p) {
-        unsigned char const c = static_cast<unsigned char>(*p);
+    for (char const letter : m_value.View()) {
+        unsigned char const c = static_cast<unsigned char>(letter);
         if (c == '\\' || c == '\'') {
             text += '\\';
-            text += *p;
+            text += letter;
         } else if (c == '\n') {
             text += "\\n";
         } else if (c == '\r') {
@@ -46,7 +46,7 @@ cow_String omu_PrimString::AsRepr() const {
             text += hex[c >> 4];
             text += hex[c & 15];
         } else {
-            text += *p;
+            text += letter;
         }
     }
     text += '\'';

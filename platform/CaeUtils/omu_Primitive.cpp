@@ -18,4 +18,10 @@ void omu_Primitive::DBWrite(cls_WriteVisitor const& visitor) const {
 }
 
 omu_PrimSequence::omu_PrimSequence() : m_uid(cls_Uid::AllocateUid()) {}
+unsigned omu_PrimSequence::DynTypeId() const { return TypeId(); }
+void omu_PrimSequence::DBWrite(cls_WriteVisitor const& visitor) const {
+    if (visitor.StartWrite(TypeId(), m_uid) == 0) return;
+    cls_WriteVisitor base(visitor, omu_Primitive::TypeId());
+    omu_Primitive::DBWrite(base);
+}
 unsigned omu_PrimSequence::TypeId() { return omu_PrimSequenceTypeId; }

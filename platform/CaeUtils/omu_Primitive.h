@@ -42,6 +42,10 @@ public:
     virtual unsigned DynTypeId() const;
     virtual void DBWrite(cls_WriteVisitor const& visitor) const;
 
+    /// A word that the scripting layer may mark a value with; copies take it along.
+    unsigned State() const { return m_state; }
+    void SetState(unsigned state) { m_state = state; }
+
     static unsigned TypeId();
 
 private:
@@ -56,10 +60,14 @@ public:
     omu_PrimSequence(omu_PrimSequence const&) = default;
     omu_PrimSequence& operator=(omu_PrimSequence const&) = default;
 
+    unsigned DynTypeId() const override;
+    void DBWrite(cls_WriteVisitor const& visitor) const override;
+
     virtual int Size() const = 0;
     /// A copy of the member, which the caller owns; raises on an index outside.
     virtual omu_Primitive* Index(int index) const = 0;
-    /// New sequences, which the caller owns. Slice clips as a script's slice does.
+    /// New sequences, which the caller owns. Slice brings both ends into range; a negative one
+    /// counts as the start.
     virtual omu_PrimSequence* Slice(int from, int to) const = 0;
     virtual omu_PrimSequence* Repeat(int times) const = 0;
     virtual omu_PrimSequence* Concat(omu_PrimSequence* other) const = 0;

@@ -1,7 +1,5 @@
 #include "atr_NaturalOrder.h"
 
-#include <bit>
-#include <cstdint>
 #include <cstring>
 #include <string_view>
 
@@ -46,9 +44,10 @@ inline int ByteOrder(unsigned char a, unsigned char b) { return a < b ? -1 : 1; 
     return a.size() < b.size() ? -1 : 1;
 }
 
-// The order of two texts that agree up to first and there differ or end.
-inline int CompareFrom(char const* a, std::size_t aLength, char const* b, std::size_t bLength,
-                       std::size_t first) {
+}  // namespace
+
+int atr_detail::CompareFrom(char const* a, std::size_t aLength, char const* b, std::size_t bLength,
+                            std::size_t first) noexcept {
     auto const at = [](char const* text, std::size_t length, std::size_t i) {
         return i < length ? static_cast<unsigned char>(text[i]) : static_cast<unsigned char>(0);
     };
@@ -74,55 +73,12 @@ inline int CompareFrom(char const* a, std::size_t aLength, char const* b, std::s
     return CompareSlowly(std::string_view(a, aLength), std::string_view(b, bLength), first);
 }
 
-inline std::uint64_t Word(char const* text) {
-    std::uint64_t word;
-    std::memcpy(&word, text, sizeof word);
-    return word;
-}
-
-// Texts in buffers are padded with zeros to whole words, so words can be compared up to the end.
-// Gives the first place where they differ, or the length of the shorter.
-inline std::size_t FirstDifference(char const* a, char const* b, std::size_t shorter) {
-    for (std::size_t i = 0; i < shorter; i += 8) {
-        if (std::uint64_t const difference = Word(a + i) ^ Word(b + i)) {
-            std::size_t const bits = static_cast<std::size_t>(
-                std::endian::native == std::endian::little ? std::countr_zero(difference)
-                                                           : std::countl_zero(difference));
-            std::size_t const at = i + bits / 8;
-            return at < shorter ? at : shorter;
-        }
-    }
-    return shorter;
-}
-
-}  // namespace
-
 int strnatcmp(char const* a, char const* b) {
     std::size_t first = 0;
     if (!a) a = "";
     if (!b) b = "";
     while (a[first] && a[first] == b[first]) ++first;
     if (a[first] == b[first]) return 0;
-    return CompareFrom(a, first + std::strlen(a + first), b, first + std::strlen(b + first), first);
-}
-
-int atr_detail::CompareNatural(atr_StringBase const& a, atr_StringBase const& b) noexcept {
-    std::size_t const aLength = static_cast<std::size_t>(a.Length());
-    std::size_t const bLength = static_cast<std::size_t>(b.Length());
-    std::size_t const shorter = aLength < bLength ? aLength : bLength;
-    std::size_t const first = FirstDifference(a.Text(), b.Text(), shorter);
-    if (first == aLength && first == bLength) return 0;
-    return CompareFrom(a.Text(), aLength, b.Text(), bLength, first);
-}
-
-int atr_detail::CompareBytes(atr_StringBase const& a, atr_StringBase const& b) noexcept {
-    std::size_t const aLength = static_cast<std::size_t>(a.Length());
-    std::size_t const bLength = static_cast<std::size_t>(b.Length());
-    std::size_t const shorter = aLength < bLength ? aLength : bLength;
-    std::size_t const first = FirstDifference(a.Text(), b.Text(), shorter);
-    if (first < shorter) {
-        return ByteOrder(static_cast<unsigned char>(a.Text()[first]),
-                         static_cast<unsigned char>(b.Text()[first]));
-    }
-    return aLength == bLength ? 0 : aLength < bLength ? -1 : 1;
+    return atr_detail::CompareFrom(a, first + std::strlen(a + first), b,
+                                   first + std::strlen(b + first), first);
 }

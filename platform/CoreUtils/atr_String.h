@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstring>
-
 #include "atr_StringBase.h"
 
 // A text for people, already in their language. Same layout as cow_String and kept apart from it by
@@ -9,8 +7,7 @@
 class atr_String : public atr_StringBase {
 public:
     atr_String() noexcept = default;
-    explicit atr_String(char const* letters)
-        : atr_StringBase(letters, letters ? static_cast<int>(std::strlen(letters)) : 0) {}
+    explicit atr_String(char const* letters) : atr_StringBase(letters, LengthOf(letters)) {}
     atr_String(char const* letters, int length) : atr_StringBase(letters, length) {}
     explicit atr_String(atr_StringBase const& other) noexcept : atr_StringBase(other) {}
 

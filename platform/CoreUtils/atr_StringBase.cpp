@@ -28,4 +28,13 @@ atr_StringBase::atr_StringBase(char const* first, int firstLength, char const* s
     text = letters;
 }
 
+int atr_StringBase::LengthOf(char const* letters) {
+    return letters ? LengthOf(std::string_view(letters)) : 0;
+}
+
+int atr_StringBase::LengthOf(std::string_view letters) {
+    if (letters.size() > INT_MAX - 16) throw std::bad_alloc();
+    return static_cast<int>(letters.size());
+}
+
 void atr_StringBase::Release(Buffer* buffer) noexcept { mem_Free(buffer); }

@@ -43,6 +43,9 @@ protected:
     atr_StringBase(char const* first, int firstLength, char const* second = nullptr,
                    int secondLength = 0);
 
+    // Throws std::bad_alloc for a text longer than a string can be.
+    static int LengthOf(char const* letters);
+    static int LengthOf(std::string_view letters);
     static bool SameText(atr_StringBase const& a, atr_StringBase const& b) noexcept {
         return a.buffer == b.buffer || a.View() == b.View();
     }

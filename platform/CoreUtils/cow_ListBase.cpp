@@ -18,17 +18,56 @@ int* NewCount() {
     return cell;
 }
 
-cow_ListPage** NewTable(long long length) {
-    if (length == 0) return nullptr;
-    std::size_t const bytes = static_cast<std::size_t>(length) * sizeof(cow_ListPage*);
-    void* const block = mem_Malloc(bytes);
-    std::memset(block, 0, bytes);
-    return static_cast<cow_ListPage**>(block);
-}
-
 std::size_t BitWords(int shift) { return ((std::size_t(1) << shift) + 63) / 64; }
 
 }  // namespace
+
+// The entries before the first and behind the last in use may hold anything.
+cow_ListPage** cow_ListBase::NewTable(int capacity, int before) {
+    static_assert(sizeof(TableHead) == sizeof(cow_ListPage*));
+    void* const block =
+        mem_Malloc((static_cast<std::size_t>(capacity) + 1) * sizeof(cow_ListPage*));
+    cow_ListPage** const made = static_cast<cow_ListPage**>(block) + 1 + before;
+    new (made - 1) TableHead{capacity, before};
+    return made;
+}
+
+void cow_ListBase::FreeTable(cow_ListPage** freed) noexcept {
+    if (freed) mem_Free(freed - 1 - reinterpret_cast<TableHead*>(freed)[-1].before);
+}
+
+// Takes the first entries over into a block of the given room.
+void cow_ListBase::MoveTable(long long capacity, int before, int kept) {
+    if (capacity >= INT_MAX / 16) throw std::bad_alloc();
+    cow_ListPage** const moved = NewTable(static_cast<int>(capacity), before);
+    if (kept) std::memcpy(moved, table, static_cast<std::size_t>(kept) * sizeof *table);
+    FreeTable(table);
+    table = moved;
+}
+
+void cow_ListBase::GrowBehind(int length) {
+    if (!table) {
+        MoveTable(length, 0, 0);
+    } else if (Head().before + length > Head().capacity) {
+        int const before = Head().before;
+        MoveTable(before + length + length / 2LL, before, tableLength);
+    }
+    std::fill(table + tableLength, table + length, nullptr);
+    tableLength = length;
+}
+
+void cow_ListBase::GrowBefore(int entries) {
+    int const length = tableLength + entries;
+    if (!table || Head().before < entries) {
+        int const before = entries + length / 2;
+        MoveTable(static_cast<long long>(before) + tableLength, before, tableLength);
+    }
+    TableHead const head = Head();
+    table -= entries;
+    new (table - 1) TableHead{head.capacity, head.before - entries};
+    std::fill(table, table + entries, nullptr);
+    tableLength = length;
+}
 
 void cow_ListBase::RaiseOutOfRange(int) { std::abort(); }
 
@@ -50,7 +89,8 @@ void cow_ListBase::Initialize(int hint) {
             tableLength = static_cast<int>(((bits & 0x7fffffu) + 0x8fffffu) >> 20);
         }
         tableLength += 16;
-        table = NewTable(tableLength);
+        table = NewTable(tableLength, 0);
+        std::fill(table, table + tableLength, nullptr);
     }
     tableCount = static_cast<int*>(cell.Release());
 }
@@ -60,7 +100,7 @@ void cow_ListBase::Release(cow_ListElementOps const& ops) noexcept {
         for (int page = 0; page < tableLength; ++page) {
             if (table[page]) ReleasePage(ops, table[page]);
         }
-        if (table) mem_Free(table);
+        FreeTable(table);
         mem_Free(tableCount);
     }
     size = tableLength = start = 0;
@@ -84,10 +124,13 @@ void cow_ListBase::Assign(cow_ListElementOps const& ops, cow_ListBase const& oth
 
 void cow_ListBase::DetachTable() {
     cow_OwnedBlock cell(NewCount());
-    cow_ListPage** const own = NewTable(tableLength);
-    for (int page = 0; page < tableLength; ++page) {
-        own[page] = table[page];
-        if (own[page]) ++own[page]->count;
+    cow_ListPage** own = nullptr;
+    if (tableLength) {
+        own = NewTable(tableLength, 0);
+        for (int page = 0; page < tableLength; ++page) {
+            own[page] = table[page];
+            if (own[page]) ++own[page]->count;
+        }
     }
     --*tableCount;
     tableCount = static_cast<int*>(cell.Release());
@@ -171,23 +214,24 @@ void cow_ListBase::ResizeTable(cow_ListElementOps const& ops, int n) {
     CopyArray();
     long long const length = TableLengthFor(n);
     if ((length << shift) > INT_MAX) throw std::bad_alloc();
-    if (length != tableLength) {
-        // All that can fail comes first.
-        cow_OwnedBlock fresh(NewTable(length));
-        int const kept = static_cast<int>(std::min<long long>(length, tableLength));
-        if (length < tableLength && n < size && n > 0) {
-            int const end = n + start;
-            int const last = (end - 1) >> shift;
-            bool const endsInside = (end & ((1 << shift) - 1)) != 0;
-            if (endsInside && table[last] && table[last]->count > 1) DetachPage(ops, last, n);
+    if (length > tableLength) {
+        GrowBehind(static_cast<int>(length));
+    } else if (length < tableLength) {
+        int const end = n + start;
+        if (n < size && n > 0 && (end & ((1 << shift) - 1)) != 0) {
+            int const last = end >> shift;
+            if (table[last] && table[last]->count > 1) DetachPage(ops, last, n);
         }
-        for (int page = kept; page < tableLength; ++page) DropPage(ops, page);
-        if (kept) {
-            std::memcpy(fresh.Get(), table, static_cast<std::size_t>(kept) * sizeof *table);
-        }
-        if (table) mem_Free(table);
-        table = static_cast<cow_ListPage**>(fresh.Release());
+        // From here on the list is cut, also if its smaller table cannot be had.
+        if (n < size) size = n;
+        for (int page = static_cast<int>(length); page < tableLength; ++page) DropPage(ops, page);
         tableLength = static_cast<int>(length);
+        if (length == 0) {
+            FreeTable(table);
+            table = nullptr;
+        } else if (length < Head().capacity / 2) {
+            MoveTable(length, 0, tableLength);
+        }
     }
     if (n < size) size = n;
     if (n == 0) {
@@ -201,18 +245,18 @@ void cow_ListBase::MakeRoomAtFront(cow_ListElementOps const& ops) {
         CopyArray();
         return;
     }
-    int used = (size + (1 << shift) - 1) >> shift;
+    int const used = (size + (1 << shift) - 1) >> shift;
+    // Where all entries are used, 16 more come; all spare entries end up before the used ones.
+    int const spare = used == tableLength ? 16 : tableLength - used;
+    if ((static_cast<long long>(used + spare) << shift) > INT_MAX) throw std::bad_alloc();
+    CopyArray();
     if (used == tableLength) {
-        if ((static_cast<long long>(used) << shift) >= INT_MAX) throw std::bad_alloc();
-        ResizeTable(ops, (used << shift) + 1);
+        GrowBefore(spare);
     } else {
-        CopyArray();
+        // Behind the live pages only what a truncation left can stand.
+        for (int page = used; page < tableLength; ++page) DropPage(ops, page);
+        std::memmove(table + spare, table, static_cast<std::size_t>(used) * sizeof *table);
+        std::fill(table, table + spare, nullptr);
     }
-    int const spare = tableLength - used;
-    if ((static_cast<long long>(tableLength) << shift) > INT_MAX) throw std::bad_alloc();
-    // Behind the live pages only what a truncation left can stand.
-    for (int page = used; page < tableLength; ++page) DropPage(ops, page);
-    std::memmove(table + spare, table, static_cast<std::size_t>(used) * sizeof *table);
-    std::fill(table, table + spare, nullptr);
     start = spare << shift;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <functional>
 #include <string_view>
 
@@ -14,12 +13,11 @@ class cow_String : public atr_StringBase {
 public:
     cow_String() noexcept = default;
     // Null is the empty string.
-    cow_String(char const* letters)
-        : atr_StringBase(letters, letters ? static_cast<int>(std::strlen(letters)) : 0) {}
+    cow_String(char const* letters) : atr_StringBase(letters, LengthOf(letters)) {}
     cow_String(char const* letters, int length) : atr_StringBase(letters, length) {}
     cow_String(omn_FixedString const& fixed) : atr_StringBase(fixed.Text(), fixed.Length()) {}
     explicit cow_String(std::string_view letters)
-        : atr_StringBase(letters.data(), static_cast<int>(letters.size())) {}
+        : atr_StringBase(letters.data(), LengthOf(letters)) {}
     explicit cow_String(atr_StringBase const& other) noexcept : atr_StringBase(other) {}
     // The decimal text of the value.
     explicit cow_String(int value);

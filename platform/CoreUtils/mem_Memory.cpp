@@ -1,5 +1,6 @@
 #include "mem_Memory.h"
 
+#include <bit>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -36,19 +37,45 @@ void* SystemAllocate(std::size_t size) {
 #if MEM_POOLED
 
 // One region of address space is reserved at first use, so that mem_Free knows a pooled block by
-// its address alone. It is cut into chunks; each chunk serves one size class.
-constexpr std::size_t maxPooled = 512;
-constexpr std::size_t classCount = maxPooled / 16 + 1;
+// its address alone. It is cut into chunks; each chunk serves one size class: steps of 16 bytes up
+// to 512, from there four steps for each doubling.
+constexpr std::size_t maxStepped = 512;
+constexpr std::size_t steppedClasses = maxStepped / 16 + 1;
+constexpr std::size_t maxPooled = std::size_t(128) << 10;
+// Cells of three adjacent blocks, each released on its own.
+constexpr std::size_t trioClass = steppedClasses + 4 * 8;
+constexpr std::size_t classCount = trioClass + 1;
 constexpr unsigned chunkBits = 16;
 constexpr std::size_t chunkSize = std::size_t(1) << chunkBits;
 constexpr std::size_t commitStep = std::size_t(4) << 20;
 constexpr std::size_t largestRegion = std::size_t(64) << 30;
 constexpr std::size_t smallestRegion = std::size_t(64) << 20;
 
-constexpr std::size_t ClassOf(std::size_t size) { return size <= 8 ? 0 : (size + 15) >> 4; }
-constexpr std::size_t SizeOfClass(std::size_t sizeClass) {
-    return sizeClass == 0 ? 8 : sizeClass << 4;
+// The three blocks of a cell, and in its last bytes how many of them are in use.
+struct TrioCell {
+    alignas(16) unsigned char first[16];
+    unsigned char second[56];
+    unsigned char third[4];
+    std::uint32_t inUse;
+};
+static_assert(sizeof(TrioCell) == 80);
+
+constexpr std::size_t ClassOf(std::size_t size) {
+    if (size <= 8) return 0;
+    if (size <= maxStepped) return (size + 15) >> 4;
+    std::size_t const width = static_cast<std::size_t>(std::bit_width(size - 1));
+    return steppedClasses + (width - 10) * 4 + (((size - 1) >> (width - 3)) & 3);
 }
+constexpr std::size_t SizeOfClass(std::size_t sizeClass) {
+    if (sizeClass == 0) return 8;
+    if (sizeClass < steppedClasses) return sizeClass << 4;
+    if (sizeClass == trioClass) return sizeof(TrioCell);
+    std::size_t const step = sizeClass - steppedClasses;
+    return ((step & 3) + 5) << (step / 4 + 7);
+}
+static_assert(SizeOfClass(ClassOf(513)) == 640 && SizeOfClass(ClassOf(1024)) == 1024);
+static_assert(ClassOf(maxPooled) == trioClass - 1);
+static_assert(SizeOfClass(trioClass - 1) == maxPooled);
 
 struct FreeBlock {
     FreeBlock* next;
@@ -65,7 +92,6 @@ struct Cache {
 
 struct Region {
     std::mutex lock;
-    std::uint8_t* classOfChunk = nullptr;
     char* next = nullptr;
     char* committed = nullptr;
     char* end = nullptr;
@@ -75,6 +101,7 @@ struct Region {
 
 std::uintptr_t regionBase = 0;
 std::size_t regionSize = 0;
+std::uint8_t* classOfChunk = nullptr;
 
 // Never destroyed: objects with static storage may still be released after it would have been.
 Region& TheRegion() {
@@ -110,7 +137,7 @@ void Reserve(Region& region) {
             munmap(base, size);
             continue;
         }
-        region.classOfChunk = static_cast<std::uint8_t*>(map);
+        classOfChunk = static_cast<std::uint8_t*>(map);
         region.next = region.committed = static_cast<char*>(base);
         region.end = region.next + size;
         regionSize = size;
@@ -119,16 +146,20 @@ void Reserve(Region& region) {
     }
 }
 
-char* TakeChunk(Region& region, std::size_t sizeClass) {
-    if (!region.next || region.next == region.end) return nullptr;
-    if (region.next == region.committed) {
+std::size_t ChunkOf(void const* block) {
+    return (reinterpret_cast<std::uintptr_t>(block) - regionBase) >> chunkBits;
+}
+
+// As many chunks side by side as one block of the class needs.
+char* TakeChunks(Region& region, std::size_t sizeClass, std::size_t bytes) {
+    if (static_cast<std::size_t>(region.end - region.next) < bytes) return nullptr;
+    while (static_cast<std::size_t>(region.committed - region.next) < bytes) {
         if (mprotect(region.committed, commitStep, PROT_READ | PROT_WRITE) != 0) return nullptr;
         region.committed += commitStep;
     }
     char* const chunk = region.next;
-    region.next += chunkSize;
-    region.classOfChunk[(reinterpret_cast<std::uintptr_t>(chunk) - regionBase) >> chunkBits] =
-        static_cast<std::uint8_t>(sizeClass);
+    region.next += bytes;
+    std::memset(classOfChunk + ChunkOf(chunk), static_cast<int>(sizeClass), bytes >> chunkBits);
     return chunk;
 }
 
@@ -149,11 +180,12 @@ Cache* TakeCache(Region& region) {
         if (!region.tried) Reserve(region);
         if (!threadCache) threadCache = TakeCache(region);
         if (threadCache && !threadCache->free[sizeClass]) {
-            char* const chunk = TakeChunk(region, sizeClass);
-            if (!chunk) return nullptr;
             std::size_t const size = SizeOfClass(sizeClass);
+            std::size_t const bytes = (size + chunkSize - 1) >> chunkBits << chunkBits;
+            char* const chunk = TakeChunks(region, sizeClass, bytes);
+            if (!chunk) return nullptr;
             threadCache->fresh[sizeClass] = chunk;
-            threadCache->freshEnd[sizeClass] = chunk + chunkSize / size * size;
+            threadCache->freshEnd[sizeClass] = chunk + bytes / size * size;
         }
     }
     cacheReturn.armed = true;
@@ -168,8 +200,7 @@ Cache* TakeCache(Region& region) {
     return block;
 }
 
-inline void* PoolAllocate(std::size_t size) {
-    std::size_t const sizeClass = ClassOf(size);
+inline void* PoolAllocate(std::size_t sizeClass) {
     if (Cache* const cache = threadCache) {
         if (FreeBlock* const block = cache->free[sizeClass]) {
             cache->free[sizeClass] = block->next;
@@ -188,9 +219,22 @@ inline bool IsPooled(void const* block) {
     return reinterpret_cast<std::uintptr_t>(block) - regionBase < regionSize;
 }
 
-inline std::size_t ClassOfBlock(void const* block) {
-    return TheRegion()
-        .classOfChunk[(reinterpret_cast<std::uintptr_t>(block) - regionBase) >> chunkBits];
+inline std::size_t ClassOfBlock(void const* block) { return classOfChunk[ChunkOf(block)]; }
+
+TrioCell* CellOf(void* block) {
+    std::uintptr_t const chunk = regionBase + (ChunkOf(block) << chunkBits);
+    std::uintptr_t const offset = reinterpret_cast<std::uintptr_t>(block) - chunk;
+    return reinterpret_cast<TrioCell*>(chunk + offset / sizeof(TrioCell) * sizeof(TrioCell));
+}
+
+// How much a block may hold.
+std::size_t CapacityOf(void* block) {
+    std::size_t const sizeClass = ClassOfBlock(block);
+    if (sizeClass != trioClass) return SizeOfClass(sizeClass);
+    TrioCell const* const cell = CellOf(block);
+    return block == cell->first    ? sizeof cell->first
+           : block == cell->second ? sizeof cell->second
+                                   : sizeof cell->third;
 }
 
 [[gnu::noinline]] bool EnsureCache() {
@@ -200,18 +244,28 @@ inline std::size_t ClassOfBlock(void const* block) {
     return threadCache != nullptr;
 }
 
-inline void PoolFree(void* block) {
-    if (!threadCache && !EnsureCache()) return;
+inline void Put(void* block, std::size_t sizeClass) {
     FreeBlock* const freed = static_cast<FreeBlock*>(block);
-    FreeBlock*& head = threadCache->free[ClassOfBlock(block)];
+    FreeBlock*& head = threadCache->free[sizeClass];
     freed->next = head;
     head = freed;
+}
+
+inline void PoolFree(void* block) {
+    if (!threadCache && !EnsureCache()) return;
+    std::size_t const sizeClass = ClassOfBlock(block);
+    if (sizeClass == trioClass) {
+        TrioCell* const cell = CellOf(block);
+        if (--cell->inUse != 0) return;
+        block = cell;
+    }
+    Put(block, sizeClass);
 }
 
 inline void* Allocate(std::size_t size) {
     AskHook(size);
     if (size <= maxPooled) {
-        if (void* const block = PoolAllocate(size)) return block;
+        if (void* const block = PoolAllocate(ClassOf(size))) return block;
     }
     return SystemAllocate(size);
 }
@@ -238,12 +292,39 @@ void* mem_OperatorNewThrowBuiltin(std::size_t size) {
 
 void* mem_Malloc(std::size_t size) { return Allocate(size); }
 
+mem_Trio mem_OperatorNewTrioThrow(std::size_t first, std::size_t second, std::size_t third) {
+#if MEM_POOLED
+    if (first <= sizeof(TrioCell::first) && second <= sizeof(TrioCell::second) &&
+        third <= sizeof(TrioCell::third)) {
+        AskHook(first);
+        AskHook(second);
+        AskHook(third);
+        if (void* const block = PoolAllocate(trioClass)) {
+            TrioCell* const cell = static_cast<TrioCell*>(block);
+            cell->inUse = 3;
+            return mem_Trio{cell->first, cell->second, cell->third};
+        }
+    }
+#endif
+    struct Taken {
+        void* block;
+        ~Taken() {
+            if (block) mem_Free(block);
+        }
+    };
+    Taken a{Allocate(first)};
+    Taken b{Allocate(second)};
+    mem_Trio const trio{a.block, b.block, Allocate(third)};
+    a.block = b.block = nullptr;
+    return trio;
+}
+
 void* mem_Realloc(void* block, std::size_t size) {
     if (!block) return Allocate(size);
 #if MEM_POOLED
     if (IsPooled(block)) {
-        std::size_t const held = SizeOfClass(ClassOfBlock(block));
-        if (size <= held && (held <= 16 || size > held - 16)) return block;
+        std::size_t const held = CapacityOf(block);
+        if (size <= held && size > held / 2) return block;
         void* const moved = Allocate(size);
         std::memcpy(moved, block, size < held ? size : held);
         PoolFree(block);
@@ -264,6 +345,21 @@ void mem_Free(void* block) noexcept {
     }
 #endif
     std::free(block);
+}
+
+void mem_FreeTrio(mem_Trio const& trio) noexcept {
+#if MEM_POOLED
+    if (IsPooled(trio.first) && ClassOfBlock(trio.first) == trioClass && threadCache) {
+        TrioCell* const cell = static_cast<TrioCell*>(trio.first);
+        if (trio.second == cell->second && trio.third == cell->third) {
+            Put(cell, trioClass);
+            return;
+        }
+    }
+#endif
+    mem_Free(trio.first);
+    mem_Free(trio.second);
+    mem_Free(trio.third);
 }
 
 mem_FailureHook mem_SetFailureHook(mem_FailureHook hook) noexcept {

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "cow_String.h"
+#include "ddr_Ddb.h"
+#include "ddr_TypeIds.h"
 #include "mdl_Extension.h"
 #include "mdl_ExtensionSubject.h"
 #include "omn_FixedString.h"
 
 /// An analysis model: a name, and extensions that it holds without knowing their classes. There may
 /// be several at once; each owns the instances of its extensions.
-class ddr_Model : public mdl_ExtensionSubject<ddr_Model, mdl_OdbExtensionTable<mdl_Extension>> {
+class ddr_Model : public mdl_ExtensionSubject<ddr_Model, mdl_OdbExtensionTable<mdl_Extension>>,
+                  public ddr_Ddb {
 public:
     explicit ddr_Model(cow_String const& name) : m_name(name) {}
 
@@ -20,7 +23,7 @@ public:
     static constexpr omn_FixedString profileCmd() { return omn_FixedString("profiles"); }
     static constexpr omn_FixedString filterCmd() { return omn_FixedString("filters"); }
 
-    static constexpr unsigned TypeId() { return 0x140001; }
+    static constexpr unsigned TypeId() { return ddr_ModelTypeId; }
 
 private:
     cow_String m_name;

@@ -30,6 +30,8 @@ rfm_TableMetadata OfList();
 rfm_TableMetadata OfMap();
 rfm_TableMetadata OfListEntry();
 rfm_TableMetadata OfMapEntry();
+/// The layout of any of them; raises for a class that is not registered.
+rfm_TableMetadata OfType(unsigned typeId, cls_ClassRegistrar const& registrar);
 
 }  // namespace rom_Layout
 

@@ -1,10 +1,61 @@
 #pragma once
 
 #include "cow_String.h"
+#include "kmaC_AcousticMedium.h"
+#include "kmaC_BrittleCracking.h"
+#include "kmaC_CapPlasticity.h"
+#include "kmaC_CastIronPlasticity.h"
+#include "kmaC_ClayPlasticity.h"
+#include "kmaC_Concrete.h"
+#include "kmaC_ConcreteDamagedPlasticity.h"
+#include "kmaC_Conductivity.h"
+#include "kmaC_Creep.h"
+#include "kmaC_DamageInitiation.h"
+#include "kmaC_Damping.h"
+#include "kmaC_DeformationPlasticity.h"
 #include "kmaC_Density.h"
+#include "kmaC_Depvar.h"
+#include "kmaC_Dielectric.h"
+#include "kmaC_Diffusivity.h"
+#include "kmaC_DruckerPrager.h"
 #include "kmaC_Elastic.h"
+#include "kmaC_ElectricalConductivity.h"
+#include "kmaC_Eos.h"
 #include "kmaC_Expansion.h"
+#include "kmaC_FluidLeakoff.h"
+#include "kmaC_Foam.h"
+#include "kmaC_GapFlow.h"
+#include "kmaC_Gel.h"
+#include "kmaC_HeatGeneration.h"
+#include "kmaC_Hyperelastic.h"
+#include "kmaC_Hyperfoam.h"
+#include "kmaC_Hypoelastic.h"
+#include "kmaC_InelasticHeatFraction.h"
+#include "kmaC_JouleHeatFraction.h"
+#include "kmaC_LatentHeat.h"
+#include "kmaC_MembraneElastic.h"
+#include "kmaC_MohrCoulomb.h"
+#include "kmaC_MoistureSwelling.h"
+#include "kmaC_MullinsEffect.h"
+#include "kmaC_Permeability.h"
+#include "kmaC_Piezoelectric.h"
+#include "kmaC_Plastic.h"
+#include "kmaC_PoreFluidExpansion.h"
+#include "kmaC_PorousBulkModuli.h"
+#include "kmaC_PorousElastic.h"
+#include "kmaC_PorousMetalPlasticity.h"
+#include "kmaC_Regularization.h"
+#include "kmaC_Solubility.h"
+#include "kmaC_Sorption.h"
 #include "kmaC_SpecificHeat.h"
+#include "kmaC_Swelling.h"
+#include "kmaC_ThicknessBehavior.h"
+#include "kmaC_TransShearElastic.h"
+#include "kmaC_UserDefinedField.h"
+#include "kmaC_UserMaterial.h"
+#include "kmaC_UserOutputVariables.h"
+#include "kmaC_Viscoelastic.h"
+#include "kmaC_Viscous.h"
 #include "mdl_Describe.h"
 #include "mdl_ExtensionWrapper.h"
 #include "mdl_MapString2ObjCow.h"
@@ -28,72 +79,72 @@ public:
     }
 
     // clang-format off
-    DD_PENDING(0x2380004, acousticMedium)
-    DD_PENDING(0x2380007, brittleCracking)
-    DD_PENDING(0x238000C, capPlasticity)
-    DD_PENDING(0x2380074, castIronPlasticity)
-    DD_PENDING(0x238000E, clayPlasticity)
-    DD_PENDING(0x2380010, concrete)
-    DD_PENDING(0x2380077, concreteDamagedPlasticity)
-    DD_PENDING(0x2380011, conductivity)
-    DD_PENDING(0x2380012, creep)
-    DD_PENDING_AS(0x238002A, foam, "crushableFoam")
-    DD_PENDING(0x2380085, ductileDamageInitiation)
-    DD_PENDING(0x2380085, fldDamageInitiation)
-    DD_PENDING(0x2380085, flsdDamageInitiation)
-    DD_PENDING(0x2380085, johnsonCookDamageInitiation)
-    DD_PENDING(0x2380085, maxeDamageInitiation)
-    DD_PENDING(0x2380085, maxsDamageInitiation)
-    DD_PENDING(0x2380085, mkDamageInitiation)
-    DD_PENDING(0x2380085, msfldDamageInitiation)
-    DD_PENDING(0x2380085, quadeDamageInitiation)
-    DD_PENDING(0x2380085, quadsDamageInitiation)
-    DD_PENDING(0x2380085, shearDamageInitiation)
-    DD_PENDING(0x2380085, hashinDamageInitiation)
-    DD_PENDING(0x2380015, damping)
-    DD_PENDING(0x2380016, deformationPlasticity)
+    DD_OPTION(kmaC_AcousticMedium, acousticMedium)
+    DD_OPTION(kmaC_BrittleCracking, brittleCracking)
+    DD_OPTION(kmaC_CapPlasticity, capPlasticity)
+    DD_OPTION(kmaC_CastIronPlasticity, castIronPlasticity)
+    DD_OPTION(kmaC_ClayPlasticity, clayPlasticity)
+    DD_OPTION(kmaC_Concrete, concrete)
+    DD_OPTION(kmaC_ConcreteDamagedPlasticity, concreteDamagedPlasticity)
+    DD_OPTION(kmaC_Conductivity, conductivity)
+    DD_OPTION(kmaC_Creep, creep)
+    DD_OPTION_AS(kmaC_Foam, foam, "crushableFoam")
+    DD_OPTION(kmaC_DamageInitiation, ductileDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, fldDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, flsdDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, johnsonCookDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, maxeDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, maxsDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, mkDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, msfldDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, quadeDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, quadsDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, shearDamageInitiation)
+    DD_OPTION(kmaC_DamageInitiation, hashinDamageInitiation)
+    DD_OPTION(kmaC_Damping, damping)
+    DD_OPTION(kmaC_DeformationPlasticity, deformationPlasticity)
     DD_OPTION(kmaC_Density, density)
-    DD_PENDING(0x2380018, depvar)
-    DD_PENDING(0x2380019, dielectric)
-    DD_PENDING(0x238001A, diffusivity)
-    DD_PENDING(0x238001B, druckerPrager)
+    DD_OPTION(kmaC_Depvar, depvar)
+    DD_OPTION(kmaC_Dielectric, dielectric)
+    DD_OPTION(kmaC_Diffusivity, diffusivity)
+    DD_OPTION(kmaC_DruckerPrager, druckerPrager)
     DD_OPTION(kmaC_Elastic, elastic)
-    DD_PENDING(0x238001F, electricalConductivity)
-    DD_PENDING(0x2380020, eos)
+    DD_OPTION(kmaC_ElectricalConductivity, electricalConductivity)
+    DD_OPTION(kmaC_Eos, eos)
     DD_OPTION(kmaC_Expansion, expansion)
-    DD_PENDING(0x2380083, fluidLeakoff)
-    DD_PENDING(0x2380084, gapFlow)
-    DD_PENDING_AS(0x238005D, thicknessBehavior, "gasketThicknessBehavior")
-    DD_PENDING_AS(0x238005C, transShearElastic, "gasketTransverseShearElastic")
-    DD_PENDING_AS(0x238005B, membraneElastic, "gasketMembraneElastic")
-    DD_PENDING(0x238002C, gel)
-    DD_PENDING(0x238002D, heatGeneration)
-    DD_PENDING(0x238002E, hyperelastic)
-    DD_PENDING(0x238002F, hyperfoam)
-    DD_PENDING(0x2380030, hypoelastic)
-    DD_PENDING(0x2380031, inelasticHeatFraction)
-    DD_PENDING(0x2380034, jouleHeatFraction)
-    DD_PENDING(0x2380036, latentHeat)
-    DD_PENDING_AS(0x2380075, mohrCoulomb, "mohrCoulombPlasticity")
-    DD_PENDING(0x2380037, moistureSwelling)
-    DD_PENDING(0x2380082, mullinsEffect)
-    DD_PENDING(0x2380039, permeability)
-    DD_PENDING(0x238003A, piezoelectric)
-    DD_PENDING(0x238003C, plastic)
-    DD_PENDING(0x238003D, poreFluidExpansion)
-    DD_PENDING(0x238003E, porousBulkModuli)
-    DD_PENDING(0x238003F, porousElastic)
-    DD_PENDING(0x2380041, porousMetalPlasticity)
-    DD_PENDING(0x2380062, regularization)
-    DD_PENDING(0x2380049, solubility)
-    DD_PENDING(0x238004A, sorption)
+    DD_OPTION(kmaC_FluidLeakoff, fluidLeakoff)
+    DD_OPTION(kmaC_GapFlow, gapFlow)
+    DD_OPTION_AS(kmaC_ThicknessBehavior, thicknessBehavior, "gasketThicknessBehavior")
+    DD_OPTION_AS(kmaC_TransShearElastic, transShearElastic, "gasketTransverseShearElastic")
+    DD_OPTION_AS(kmaC_MembraneElastic, membraneElastic, "gasketMembraneElastic")
+    DD_OPTION(kmaC_Gel, gel)
+    DD_OPTION(kmaC_HeatGeneration, heatGeneration)
+    DD_OPTION(kmaC_Hyperelastic, hyperelastic)
+    DD_OPTION(kmaC_Hyperfoam, hyperfoam)
+    DD_OPTION(kmaC_Hypoelastic, hypoelastic)
+    DD_OPTION(kmaC_InelasticHeatFraction, inelasticHeatFraction)
+    DD_OPTION(kmaC_JouleHeatFraction, jouleHeatFraction)
+    DD_OPTION(kmaC_LatentHeat, latentHeat)
+    DD_OPTION_AS(kmaC_MohrCoulomb, mohrCoulomb, "mohrCoulombPlasticity")
+    DD_OPTION(kmaC_MoistureSwelling, moistureSwelling)
+    DD_OPTION(kmaC_MullinsEffect, mullinsEffect)
+    DD_OPTION(kmaC_Permeability, permeability)
+    DD_OPTION(kmaC_Piezoelectric, piezoelectric)
+    DD_OPTION(kmaC_Plastic, plastic)
+    DD_OPTION(kmaC_PoreFluidExpansion, poreFluidExpansion)
+    DD_OPTION(kmaC_PorousBulkModuli, porousBulkModuli)
+    DD_OPTION(kmaC_PorousElastic, porousElastic)
+    DD_OPTION(kmaC_PorousMetalPlasticity, porousMetalPlasticity)
+    DD_OPTION(kmaC_Regularization, regularization)
+    DD_OPTION(kmaC_Solubility, solubility)
+    DD_OPTION(kmaC_Sorption, sorption)
     DD_OPTION(kmaC_SpecificHeat, specificHeat)
-    DD_PENDING(0x238004C, swelling)
-    DD_PENDING(0x2380052, userDefinedField)
-    DD_PENDING(0x2380053, userMaterial)
-    DD_PENDING(0x2380054, userOutputVariables)
-    DD_PENDING(0x2380055, viscoelastic)
-    DD_PENDING(0x2380070, viscous)
+    DD_OPTION(kmaC_Swelling, swelling)
+    DD_OPTION(kmaC_UserDefinedField, userDefinedField)
+    DD_OPTION(kmaC_UserMaterial, userMaterial)
+    DD_OPTION(kmaC_UserOutputVariables, userOutputVariables)
+    DD_OPTION(kmaC_Viscoelastic, viscoelastic)
+    DD_OPTION(kmaC_Viscous, viscous)
     DD_FIELD(cow_String, description)
     DD_FIELD(cow_String, materialIdentifier)
     // clang-format on

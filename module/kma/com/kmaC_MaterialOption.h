@@ -1,8 +1,14 @@
 #pragma once
 
+#include <limits>
+
 #include "kmaC_MaterialTable.h"
 #include "kmaC_assert.h"
 #include "mdl_Describe.h"
+
+/// What a real field holds that was not set, where its class has no other default for it. There is
+/// no separate flag, and databases hold this very value.
+inline constexpr double kmaC_NotSet = std::numeric_limits<double>::max();
 
 /// The base of all material options: what a material does, one behaviour a class. An option is a
 /// few scalars and enumerations, usually one table of numbers, and some optional sub-options. It is

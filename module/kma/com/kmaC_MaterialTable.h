@@ -31,8 +31,8 @@ public:
     double& MutableCell(int row, int column) { return table.Get().Cell(row, column); }
 
     /// Orders the rows, ascending and stable, by the last \p n columns, the rightmost being the
-    /// most significant. 0 leaves the table as it is. A NaN in a key column stops the walk of its
-    /// row. Raises for an n above the column count.
+    /// most significant; see mdl_SortedRows. 0 leaves the table as it is. An n above the column
+    /// count ends the process, so a caller who does not know n checks it first.
     void Sort(int n);
 
     /// Same size and equal cells; a NaN equals nothing. Flag and identity take no part.

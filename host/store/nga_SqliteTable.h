@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "nga_Sqlite.h"
+#include "rfm_Database.h"
+
+namespace nga {
+
+/// The column that makes a row's number its key; named, so that no tool renumbers rows in passing.
+inline constexpr char const* rowNumberColumn = "##OID";
+
+/// Raises a failure of the store as the interface of record stores wants it.
+[[noreturn]] void RaiseStore(std::string const& cause, int line);
+
+/// Runs \p work and raises what SQLite says against it as a failure of the store.
+template <class Work>
+auto InStoreTerms(Work&& work) -> decltype(work()) {
+    try {
+        return work();
+    } catch (SqliteError const& error) {
+        RaiseStore(error.what(), __LINE__);
+    }
+}
+
+/// One table of a SqliteDatabase. Its statements are prepared when first needed and kept.
+class SqliteTable final : public rfm_Table {
+public:
+    /// In place of a file's size: the table is new and empty.
+    static constexpr long long New = -1;
+
+    SqliteTable(SqliteConnection const& connection, rfm_TableMetadata const& metadata,
+                std::string const& sqlTable, long long fileSize);
+    ~SqliteTable() override;
+
+    rfm_TableMetadata const& Metadata() const override { return m_metadata; }
+    int RowCount() override;
+    int Append(rfm_Value const* values) override;
+    void Replace(int oid, rfm_Value const* values) override;
+    std::unique_ptr<rfm_Cursor> OpenCursor() override;
+    int FindRow(int intColumn, long long integer, int textColumn, cow_String const& text) override;
+
+    std::string const& SqlTable() const { return m_sqlTable; }
+
+private:
+    friend class SqliteCursor;
+
+    void BindRow(SqliteStatement& statement, std::vector<bool>& bound, rfm_Value const* values);
+    SqliteStatement TakeReader();
+    std::string ColumnList() const;
+
+    SqliteConnection const& m_connection;
+    rfm_TableMetadata m_metadata;
+    std::string m_sqlTable;
+    long long m_fileSize;
+    int m_rowCount = -1;  ///< not asked yet
+    SqliteStatement m_append;
+    std::vector<bool> m_appendBound;  ///< the parameters that hold values of the former row
+    SqliteStatement m_find;
+    int m_findColumns[2] = {-1, -1};
+    /// Statements of cursors that are gone, for those to come.
+    std::shared_ptr<std::vector<SqliteStatement>> m_readers;
+};
+
+}  // namespace nga

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <climits>
+
+#include "kmaC_MaterialOption.h"
+
+/// Test data of equibiaxial tension: nominal stress against nominal strain.
+class kmaC_BiaxialTestData : public kmaC_MaterialOption {
+    DD_CLASS(kmaC_BiaxialTestData, kmaC_MaterialOption, 0x2380006, 324, "BiaxialTestData")
+public:
+    /// How many neighbours smooth a point; the largest integer means none given.
+    DD_FIELD(int, smoothing, INT_MAX)
+    DD_FIELD(bool, lateralNominalStrain, false)
+    DD_FIELD(bool, temperatureDependency, false)
+    DD_FIELD(int, dependencies, 0)
+    DD_FIELD(kmaC_MaterialTable, table)
+    DD_END
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "kmaC_MaterialOption.h"
+
+/// Thermal expansion of a fluid in a cavity. Retired: no current class holds it, but databases of
+/// old schemas do.
+class kmaC_FluidExpansion : public kmaC_MaterialOption {
+    DD_CLASS_UNSCRIPTED(kmaC_FluidExpansion, kmaC_MaterialOption, 0x2380029, 203)
+public:
+    DD_FIELD_UNSCRIPTED(bool, temperatureDependency, false)
+    DD_FIELD_UNSCRIPTED(int, dependencies, 0)
+    DD_FIELD_UNSCRIPTED(double, zero, 0.0)  ///< reference temperature
+    DD_FIELD_UNSCRIPTED(kmaC_MaterialTable, table)
+    DD_END
+};

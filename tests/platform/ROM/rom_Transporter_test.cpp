@@ -1,0 +1,206 @@
+#include "rom_Transporter.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "DDB_NonGeometricAttributes.h"
+#include "rfm_MemoryDatabase.h"
+
+namespace {
+
+// Database: the domain that a model's file is written and read under.
+class Transporter : public testing::Test {
+protected:
+    void SetUp() override {
+        DDB_NonGeometricAttributes_initialize(m_count);
+        m_registrar = &omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
+    }
+    void TearDown() override { DDB_NonGeometricAttributes_finalize(m_count); }
+
+    static kmaC_Material Steel() {
+        kmaC_Material material;
+        material.description = cow_String("a steel");
+        auto* elastic = new kmaC_Elastic;
+        elastic->type = kmaC_Elastic::TypeEnm::LAMINA;
+        elastic->table = kmaC_MaterialTable(2, 2);
+        elastic->table.MutableCell(0, 0) = 210e3;
+        elastic->table.MutableCell(1, 1) = -0.0;
+        elastic->failStress = new kmaC_FailStress;
+        material.elastic = elastic;
+        material.density = new kmaC_Density;
+        return material;
+    }
+    std::string MessageOf(std::function<void()> const& action) {
+        try {
+            action();
+        } catch (nex_Exception const& failure) {
+            return failure.UserReport().Text();
+        }
+        return "";
+    }
+    // Puts a value into a stored row.
+    void Poke(unsigned typeId, int oid, char const* column, rfm_Value const& value) {
+        rfm_Table& table = *m_database.FindTable(typeId);
+        std::unique_ptr<rfm_Cursor> cursor = table.OpenCursor();
+        ASSERT_TRUE(cursor->Seek(oid));
+        std::vector<rfm_Value> row;
+        for (int i = 0; i < table.Metadata().ColumnCount(); ++i) row.push_back(cursor->Value(i));
+        row[static_cast<std::size_t>(table.Metadata().Find(column))] = value;
+        // The row's own views must outlive the replacement.
+        std::vector<std::string> kept;
+        kept.reserve(row.size());
+        for (rfm_Value& cell : row) {
+            if (cell.tag == rfm_Value::Text)
+                cell.text = kept.emplace_back(cell.text, cell.length).c_str();
+            else if (cell.tag == rfm_Value::Bytes)
+                cell.bytes =
+                    kept.emplace_back(static_cast<char const*>(cell.bytes), cell.length).c_str();
+        }
+        table.Replace(oid, row.data());
+    }
+
+    rfm_MemoryDatabase m_database;
+    cls_ClassRegistrar const* m_registrar = nullptr;
+
+private:
+    int m_count = 0;
+};
+
+TEST_F(Transporter, BringsAMaterialThereAndBack) {
+    kmaC_Material const material = Steel();
+    rom_Transporter out(m_database, *m_registrar);
+    EXPECT_EQ(out.Write(&material, material.DynTypeId()), 0);
+
+    rom_Transporter in(m_database, *m_registrar);
+    cow_ErasedHandle const read = in.Read(kmaC_Material::TypeId(), 0);
+    auto const& back = *static_cast<kmaC_Material const*>(read.ErasedReferent());
+    EXPECT_TRUE(kmaC_Material::Description().Same(&material, &back));
+    EXPECT_EQ(back.uid, material.uid);
+    EXPECT_EQ(back.elastic.ConstGet().uid, material.elastic.ConstGet().uid);
+}
+
+TEST_F(Transporter, WritesOneIdentityOnceAndReadsItAsOneObject) {
+    kmaC_MaterialContainer repository;
+    kmaC_Material material = Steel();
+    repository.Insert("a", material);
+    material.uid.NewUid();
+    repository.Insert("b", material);  // shares the options of "a"
+    kmaC_MCWrapper const wrapper(repository);
+    rom_Transporter out(m_database, *m_registrar);
+    out.Write(&wrapper, wrapper.DynTypeId());
+    EXPECT_EQ(m_database.FindTable(kmaC_Material::TypeId())->RowCount(), 2);
+    EXPECT_EQ(m_database.FindTable(kmaC_Elastic::TypeId())->RowCount(), 1);
+    EXPECT_EQ(m_database.FindTable(kmaC_MaterialOption::TypeId())->RowCount(), 3);
+
+    rom_Transporter in(m_database, *m_registrar);
+    cow_ErasedHandle const read = in.Read(kmaC_MCWrapper::TypeId(), 0);
+    auto& back = *static_cast<kmaC_MCWrapper*>(read.ErasedReferent());
+    auto& materials = static_cast<kmaC_MaterialContainer&>(back.GetValue());
+    ASSERT_EQ(materials.Size(), 2);
+    EXPECT_EQ(materials.ConstGet("a").elastic.GetPtr(), materials.ConstGet("b").elastic.GetPtr());
+}
+
+TEST_F(Transporter, ReadsOneElementOfAMapByItsKeyAlone) {
+    kmaC_MaterialContainer repository;
+    for (int i = 0; i < 20; ++i) {
+        kmaC_Material material;
+        material.description = cow_String(i);
+        repository.Insert(cow_String("m") + cow_String(i), material);
+    }
+    kmaC_MCWrapper const wrapper(repository);
+    rom_Transporter(m_database, *m_registrar).Write(&wrapper, wrapper.DynTypeId());
+    rom_Transporter in(m_database, *m_registrar);
+    cow_ErasedHandle const found =
+        in.ReadMapElement(kmaC_MCWrapper::TypeId(), 0, "extension", "m17", kmaC_Material::TypeId());
+    ASSERT_FALSE(found.IsNull());
+    EXPECT_EQ(static_cast<kmaC_Material const*>(found.ErasedReferent())->description, "17");
+    EXPECT_TRUE(
+        in.ReadMapElement(kmaC_MCWrapper::TypeId(), 0, "extension", "m20", kmaC_Material::TypeId())
+            .IsNull());
+}
+
+TEST_F(Transporter, KeepsLoadCasesWithTheirMaps) {
+    klcC_LoadCase loadCase;
+    loadCase.loads.Insert("Load-1", 1.5f);
+    loadCase.loads.Insert("Load-2", -0.0f);
+    loadCase.fields.Insert("Temp", 2.0f);
+    loadCase.includeActiveBaseStateBC = false;
+    rom_Transporter(m_database, *m_registrar).Write(&loadCase, loadCase.DynTypeId());
+    rom_Transporter in(m_database, *m_registrar);
+    cow_ErasedHandle const read = in.Read(klcC_LoadCase::TypeId(), 0);
+    EXPECT_TRUE(klcC_LoadCase::Description().Same(&loadCase, read.ErasedReferent()));
+}
+
+TEST_F(Transporter, MissingValuesReadAsZeroAndFalseWhateverTheClassDefaults) {
+    klcC_LoadCase const loadCase;
+    rom_Transporter(m_database, *m_registrar).Write(&loadCase, loadCase.DynTypeId());
+    Poke(klcC_LoadCase::TypeId(), 0, "includeActiveBaseStateBC", rfm_Value());
+    Poke(klcC_LoadCase::TypeId(), 0, "loads#OID", rfm_Value());
+    rom_Transporter in(m_database, *m_registrar);
+    cow_ErasedHandle const read = in.Read(klcC_LoadCase::TypeId(), 0);
+    auto const& back = *static_cast<klcC_LoadCase const*>(read.ErasedReferent());
+    EXPECT_FALSE(back.includeActiveBaseStateBC);
+    EXPECT_EQ(back.loads.Size(), 0);
+}
+
+TEST_F(Transporter, RefusesAReferenceToAMissingRow) {
+    kmaC_Material const material = Steel();
+    rom_Transporter(m_database, *m_registrar).Write(&material, material.DynTypeId());
+    Poke(kmaC_Material::TypeId(), 0, "elastic#OID", rfm_Value::OfInt(7));
+    rom_Transporter in(m_database, *m_registrar);
+    EXPECT_EQ(MessageOf([&] { in.Read(kmaC_Material::TypeId(), 0); }),
+              "Row 7 of table kmaC_Elastic is referred to and does not exist.");
+}
+
+TEST_F(Transporter, RefusesAReferenceToAClassThatTheFieldCannotHold) {
+    kmaC_Material const material = Steel();
+    rom_Transporter(m_database, *m_registrar).Write(&material, material.DynTypeId());
+    Poke(kmaC_Material::TypeId(), 0, "elastic#ClassID", rfm_Value::OfInt(kmaC_Density::TypeId()));
+    rom_Transporter in(m_database, *m_registrar);
+    EXPECT_EQ(MessageOf([&] { in.Read(kmaC_Material::TypeId(), 0); }),
+              "Row 0 of table kmaC_Material, field \"elastic\", refers to an object of a class "
+              "that it cannot hold.");
+}
+
+TEST_F(Transporter, AReferenceWithoutAClassIsToTheRegisteredOne) {
+    kmaC_Material const material = Steel();
+    rom_Transporter(m_database, *m_registrar).Write(&material, material.DynTypeId());
+    Poke(kmaC_Material::TypeId(), 0, "elastic#ClassID", rfm_Value());
+    rom_Transporter in(m_database, *m_registrar);
+    cow_ErasedHandle const read = in.Read(kmaC_Material::TypeId(), 0);
+    EXPECT_TRUE(kmaC_Material::Description().Same(&material, read.ErasedReferent()));
+}
+
+TEST_F(Transporter, RefusesAnArrayThatItsColumnsDoNotDivide) {
+    kmaC_Material const material = Steel();
+    rom_Transporter(m_database, *m_registrar).Write(&material, material.DynTypeId());
+    // Density comes before elastic among a material's members, and its table is empty.
+    Poke(cls_ListTypeId, 1, "Target#Columns", rfm_Value::OfInt(3));
+    rom_Transporter in(m_database, *m_registrar);
+    EXPECT_EQ(MessageOf([&] { in.Read(kmaC_Material::TypeId(), 0); }),
+              "Row 1 of table cls_List holds an array whose length its columns do not divide.");
+}
+
+TEST_F(Transporter, KeepsRowsOfAnArrayWithoutColumns) {
+    kmaC_Density density;
+    density.table = kmaC_MaterialTable(3, 0);
+    rom_Transporter(m_database, *m_registrar).Write(&density, density.DynTypeId());
+    rom_Transporter in(m_database, *m_registrar);
+    cow_ErasedHandle const read = in.Read(kmaC_Density::TypeId(), 0);
+    EXPECT_EQ(static_cast<kmaC_Density const*>(read.ErasedReferent())->table.Rows(), 3);
+}
+
+TEST_F(Transporter, AStoredNumberOutsideTheTableIsRefusedAndNothingIsHalfWritten) {
+    kmaC_Material material = Steel();
+    material.elastic.Get().type = static_cast<kmaC_Elastic::TypeEnm>(99);
+    rom_Transporter out(m_database, *m_registrar);
+    EXPECT_EQ(MessageOf([&] { out.Write(&material, material.DynTypeId()); }),
+              "omu_PrimEnum(Enum) - Enum value not allowed: 99  Permissible: ISOTROPIC, "
+              "ORTHOTROPIC, ANISOTROPIC, ENGINEERING_CONSTANTS, LAMINA, TRACTION, "
+              "COUPLED_TRACTION, SHORT_FIBER");
+    EXPECT_EQ(m_database.FindTable(kmaC_Elastic::TypeId()), nullptr);
+    EXPECT_EQ(m_database.FindTable(kmaC_Material::TypeId()), nullptr);
+}
+
+}  // namespace
