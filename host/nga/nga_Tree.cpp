@@ -241,7 +241,11 @@ void WriteSelected(JsonWriter& writer, Document const& document, Selection const
             return;
         }
         case Selection::What::Object: {
-            void const* const usual = defaults.Of(*selection.description);
+            // A member held by value has the defaults that its owner gives it.
+            bool const member =
+                selection.field && selection.field->Type().Kind() == mdl_FieldKind::Object;
+            void const* const usual = member ? selection.field->At(defaults.Of(*selection.owner))
+                                             : defaults.Of(*selection.description);
             WriteObject(writer, defaults, *selection.description, *selection.description,
                         selection.object, usual);
             return;
