@@ -125,9 +125,9 @@ void SqliteConnection::Harden(long long length) {
         {SQLITE_LIMIT_TRIGGER_DEPTH, 1},       {SQLITE_LIMIT_WORKER_THREADS, 0},
     };
     for (auto const& [limit, value] : limits) sqlite3_limit(m_database, limit, value);
-    Execute(
-        "PRAGMA mmap_size=0; PRAGMA cell_size_check=ON; PRAGMA query_only=ON;"
-        "PRAGMA temp_store=MEMORY");
+    sqlite3_int64 mapped = 0;
+    Check(m_database, sqlite3_file_control(m_database, "main", SQLITE_FCNTL_MMAP_SIZE, &mapped));
+    Execute("PRAGMA cell_size_check=ON");
 }
 
 int SqliteConnection::CountWork(void* connection) noexcept {
@@ -256,13 +256,20 @@ std::string SqliteStatement::Text(int column) const {
     return std::string(value.text, static_cast<std::size_t>(value.length));
 }
 
-std::string SqlName(std::string_view name) {
-    std::string result = "\"";
-    for (char const letter : name) {
-        if (letter == '"') result += '"';
-        result += letter;
+void AppendSqlName(std::string& sql, std::string_view name) {
+    sql += '"';
+    for (std::size_t quote; (quote = name.find('"')) != name.npos; name.remove_prefix(quote + 1)) {
+        sql += name.substr(0, quote);
+        sql += "\"\"";
     }
-    return result + '"';
+    sql += name;
+    sql += '"';
+}
+
+std::string SqlName(std::string_view name) {
+    std::string result;
+    AppendSqlName(result, name);
+    return result;
 }
 
 }  // namespace nga

@@ -93,5 +93,6 @@ double NanFromBytes(void const* bytes);
 
 /// A name as SQL writes it.
 std::string SqlName(std::string_view name);
+void AppendSqlName(std::string& sql, std::string_view name);
 
 }  // namespace nga

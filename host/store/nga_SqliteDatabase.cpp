@@ -67,8 +67,11 @@ std::optional<rfm_ColumnKind> KindOf(std::string const& declaredType) {
 std::string TableSql(rfm_TableMetadata const& metadata, std::string const& tableName) {
     std::string sql = "CREATE TABLE " + SqlName(tableName) + "(\n  " + SqlName(rowNumberColumn) +
                       " INTEGER PRIMARY KEY";
-    for (rfm_Column const& column : metadata.Columns())
-        sql += ",\n  " + SqlName(column.name.View()) + DeclaredType(column.kind);
+    for (rfm_Column const& column : metadata.Columns()) {
+        sql += ",\n  ";
+        AppendSqlName(sql, column.name.View());
+        sql += DeclaredType(column.kind);
+    }
     return sql + "\n)";
 }
 
@@ -167,10 +170,10 @@ void SqliteDatabase::ReadCatalogue() {
 
 // The text that made the table says all about it; only where it is another are the columns asked
 // for one by one.
-rfm_TableMetadata SqliteDatabase::CheckedLayout(CatalogueEntry const& entry) {
-    std::optional<rfm_TableMetadata> const expected = m_layoutOf(entry);
+SqliteDatabase::CheckedLayout SqliteDatabase::LayoutInFile(CatalogueEntry const& entry) {
+    std::optional<rfm_TableMetadata> expected = m_layoutOf(entry);
     if (expected && m_schema[entry.tableName].sql == TableSql(*expected, entry.tableName))
-        return *expected;
+        return {*std::move(expected), true};
 
     std::string const table = "table " + entry.tableName;
     rfm_TableMetadata own(entry.typeId, cow_String(std::string_view(entry.className)),
@@ -189,7 +192,7 @@ rfm_TableMetadata SqliteDatabase::CheckedLayout(CatalogueEntry const& entry) {
         own.Add(cow_String(std::string_view(name)), *kind);
     }
     if (!numbered) RaiseStore(table + " has no column of row numbers", __LINE__);
-    if (!expected) return own;
+    if (!expected) return {std::move(own), false};
 
     for (rfm_Column const& column : expected->Columns()) {
         int const place = own.Find(column.name);
@@ -201,7 +204,7 @@ rfm_TableMetadata SqliteDatabase::CheckedLayout(CatalogueEntry const& entry) {
     for (rfm_Column const& column : own.Columns())
         if (expected->Find(column.name) < 0)
             RaiseStore(table + " has a column " + column.name.Text() + " too many", __LINE__);
-    return *expected;
+    return {*std::move(expected), false};
 }
 
 rfm_Table* SqliteDatabase::FindTable(unsigned typeId) {
@@ -213,8 +216,9 @@ rfm_Table* SqliteDatabase::FindTable(unsigned typeId) {
         [typeId](CatalogueEntry const& candidate) { return candidate.typeId == typeId; });
     if (entry == m_catalogue.end()) return nullptr;
     return InStoreTerms([&] {
-        auto table = std::make_unique<SqliteTable>(m_connection, CheckedLayout(*entry),
-                                                   entry->tableName, m_fileSize);
+        CheckedLayout const checked = LayoutInFile(*entry);
+        auto table = std::make_unique<SqliteTable>(m_connection, checked.layout, entry->tableName,
+                                                   checked.inOrder, m_fileSize);
         return m_tables.emplace(typeId, std::move(table)).first->second.get();
     });
 }
@@ -238,7 +242,7 @@ rfm_Table& SqliteDatabase::CreateTable(rfm_TableMetadata const& metadata) {
         CatalogueEntry entry{metadata.TypeId(), std::string(metadata.Name().View()),
                              FreeTableName(metadata), metadata.Version(), metadata.ParentTypeId()};
         m_connection.Execute(TableSql(metadata, entry.tableName));
-        auto table = std::make_unique<SqliteTable>(m_connection, metadata, entry.tableName,
+        auto table = std::make_unique<SqliteTable>(m_connection, metadata, entry.tableName, true,
                                                    SqliteTable::New);
         m_catalogue.push_back(std::move(entry));
         return *(m_tables[metadata.TypeId()] = std::move(table));
@@ -256,6 +260,7 @@ std::vector<rfm_Table*> SqliteDatabase::Tables() {
 void SqliteDatabase::AddIndex(unsigned typeId, int intColumn, int textColumn) {
     auto const found = m_tables.find(typeId);
     if (found == m_tables.end()) return;
+    found->second->Flush();
     InStoreTerms([&] {
         std::vector<rfm_Column> const& columns = found->second->Metadata().Columns();
         std::string const& table = found->second->SqlTable();
@@ -268,6 +273,7 @@ void SqliteDatabase::AddIndex(unsigned typeId, int intColumn, int textColumn) {
 }
 
 void SqliteDatabase::Finish() {
+    for (auto const& [typeId, table] : m_tables) table->Flush();
     InStoreTerms([&] {
         // In the order of the numbers, as SQLite keeps the rows.
         std::sort(m_catalogue.begin(), m_catalogue.end(),

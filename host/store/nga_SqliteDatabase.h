@@ -73,7 +73,11 @@ private:
     void StartBuild(std::string const& path);
     void StartRead(std::string const& path, long long fileSize);
     void ReadCatalogue();
-    rfm_TableMetadata CheckedLayout(CatalogueEntry const& entry);
+    struct CheckedLayout {
+        rfm_TableMetadata layout;
+        bool inOrder;  ///< the table's columns stand in the order of the layout
+    };
+    CheckedLayout LayoutInFile(CatalogueEntry const& entry);
     std::string FreeTableName(rfm_TableMetadata const& metadata) const;
 
     SqliteConnection m_connection;

@@ -5,12 +5,23 @@
 
 namespace nga {
 
+namespace {
+
+// A statement costs as much as a row or two, so that the rows of a narrow table go in several at a
+// time once there are so many that preparing the longer statement pays. For wide tables it does
+// not: SQLite copies every column once more.
+constexpr int rowsTogether = 16;
+constexpr int columnsTogether = 32;
+constexpr int rowsAtOnce = 256;
+constexpr std::size_t bytesTogether = 1 << 20;
+
+}  // namespace
+
 /// Steps forward while the rows are asked for in their order, and looks the row up otherwise.
 class SqliteCursor final : public rfm_Cursor {
 public:
     SqliteCursor(SqliteTable& table, SqliteStatement statement)
         : m_readers(table.m_readers),
-          m_rowCount(table.RowCount()),
           m_columns(table.m_metadata.Columns()),
           m_statement(std::move(statement)) {}
     ~SqliteCursor() override {
@@ -27,7 +38,7 @@ public:
             if (oid == m_oid && oid >= 0) return true;
             bool const next = m_oid >= 0 && oid == m_oid + 1;
             m_oid = -1;
-            if (oid < 0 || oid >= m_rowCount) return false;
+            if (oid < 0) return false;
             if (!next) {
                 m_statement.Reset();
                 m_statement.BindInt(0, oid);
@@ -56,17 +67,17 @@ public:
 
 private:
     std::shared_ptr<std::vector<SqliteStatement>> m_readers;
-    int m_rowCount;
     std::vector<rfm_Column> const& m_columns;
     SqliteStatement m_statement;
     int m_oid = -1;
 };
 
 SqliteTable::SqliteTable(SqliteConnection const& connection, rfm_TableMetadata const& metadata,
-                         std::string const& sqlTable, long long fileSize)
+                         std::string const& sqlTable, bool inOrder, long long fileSize)
     : m_connection(connection),
       m_metadata(metadata),
       m_sqlTable(sqlTable),
+      m_inOrder(inOrder),
       m_fileSize(fileSize),
       m_readers(std::make_shared<std::vector<SqliteStatement>>()) {
     if (fileSize == New) m_rowCount = 0;
@@ -76,8 +87,10 @@ SqliteTable::~SqliteTable() = default;
 
 std::string SqliteTable::ColumnList() const {
     std::string list;
-    for (rfm_Column const& column : m_metadata.Columns())
-        list += (list.empty() ? "" : ",") + SqlName(column.name.View());
+    for (rfm_Column const& column : m_metadata.Columns()) {
+        if (!list.empty()) list += ',';
+        AppendSqlName(list, column.name.View());
+    }
     return list;
 }
 
@@ -96,42 +109,87 @@ int SqliteTable::RowCount() {
     });
 }
 
-void SqliteTable::BindRow(SqliteStatement& statement, std::vector<bool>& bound,
-                          rfm_Value const* values) {
-    for (std::size_t i = 0; i < bound.size(); ++i) {
+SqliteTable::Insert SqliteTable::MakeInsert(int rows) const {
+    std::size_t const columns = m_metadata.Columns().size();
+    std::string row = "(";
+    for (std::size_t i = 0; i < columns; ++i) row += i ? ",?" : "?";
+    row += ')';
+    std::string sql = "INSERT INTO " + SqlName(m_sqlTable) + "(" + ColumnList() + ") VALUES" + row;
+    for (int i = 1; i < rows; ++i) sql += ',' + row;
+    return {SqliteStatement(m_connection, sql),
+            std::vector<bool>(columns * static_cast<std::size_t>(rows))};
+}
+
+void SqliteTable::RunInsert(Insert& insert, rfm_Value const* values) {
+    for (std::size_t i = 0; i < insert.bound.size(); ++i) {
         bool const given = values[i].tag != rfm_Value::Null;
         if (given)
-            statement.Bind(static_cast<int>(i), values[i]);
-        else if (bound[i])
-            statement.BindNull(static_cast<int>(i));
-        bound[i] = given;
+            insert.statement.Bind(static_cast<int>(i), values[i]);
+        else if (insert.bound[i])
+            insert.statement.BindNull(static_cast<int>(i));
+        insert.bound[i] = given;
     }
+    insert.statement.Run();
+}
+
+void SqliteTable::InsertAt(int oid, char const* verb, rfm_Value const* values) {
+    std::string sql = verb + (" INTO " + SqlName(m_sqlTable)) + " VALUES(" + std::to_string(oid);
+    for (int i = 0; i < m_metadata.ColumnCount(); ++i) sql += ",?";
+    Insert insert{SqliteStatement(m_connection, sql + ")"),
+                  std::vector<bool>(m_metadata.Columns().size())};
+    RunInsert(insert, values);
+}
+
+void SqliteTable::Wait(rfm_Value const* values) {
+    for (int i = 0; i < m_metadata.ColumnCount(); ++i) {
+        rfm_Value value = values[i];
+        if (value.tag == rfm_Value::Text || value.tag == rfm_Value::Bytes) {
+            auto const offset = static_cast<long long>(m_waiting.data.size());
+            if (value.length > 0)
+                m_waiting.data.append(static_cast<char const*>(value.bytes),
+                                      static_cast<std::size_t>(value.length));
+            value.integer = offset;
+        }
+        m_waiting.values.push_back(value);
+    }
+    ++m_waiting.rows;
+}
+
+void SqliteTable::Flush() {
+    if (m_waiting.rows == 0) return;
+    for (rfm_Value& value : m_waiting.values)
+        if (value.tag == rfm_Value::Text || value.tag == rfm_Value::Bytes)
+            value.bytes = m_waiting.data.data() + value.integer;
+    InStoreTerms([&] {
+        if (m_waiting.rows == rowsTogether) {
+            if (!m_insertMany.statement) m_insertMany = MakeInsert(rowsTogether);
+            RunInsert(m_insertMany, m_waiting.values.data());
+        } else {
+            for (int row = 0; row < m_waiting.rows; ++row)
+                RunInsert(m_insertOne, m_waiting.values.data() + row * m_metadata.ColumnCount());
+        }
+    });
+    m_waiting.values.clear();
+    m_waiting.data.clear();
+    m_waiting.rows = 0;
 }
 
 int SqliteTable::Append(rfm_Value const* values) {
-    if (m_rowCount == INT_MAX) RaiseStore("table " + m_sqlTable + " is full", __LINE__);
+    if (RowCount() == INT_MAX) RaiseStore("table " + m_sqlTable + " is full", __LINE__);
     return InStoreTerms([&] {
-        std::size_t const columns = m_metadata.Columns().size();
-        if (RowCount() == 0) {
+        if (m_rowCount == 0) {
             // SQLite numbers from 1 on its own, and goes on from whatever stands there.
-            std::string marks = "0";
-            for (std::size_t i = 0; i < columns; ++i) marks += ",?";
-            SqliteStatement first(m_connection,
-                                  "INSERT INTO " + SqlName(m_sqlTable) + " VALUES(" + marks + ")");
-            std::vector<bool> bound(columns);
-            BindRow(first, bound, values);
-            first.Run();
-            return m_rowCount++;
+            InsertAt(0, "INSERT", values);
+        } else {
+            if (!m_insertOne.statement) m_insertOne = MakeInsert(1);
+            if (m_rowCount < rowsAtOnce || m_metadata.ColumnCount() > columnsTogether) {
+                RunInsert(m_insertOne, values);
+            } else {
+                Wait(values);
+                if (m_waiting.rows == rowsTogether || m_waiting.data.size() > bytesTogether)
+                    Flush();
+            }
         }
-        if (!m_append) {
-            std::string marks;
-            for (std::size_t i = 0; i < columns; ++i) marks += i ? ",?" : "?";
-            m_append = SqliteStatement(m_connection, "INSERT INTO " + SqlName(m_sqlTable) + "(" +
-                                                         ColumnList() + ") VALUES(" + marks + ")");
-            m_appendBound.assign(columns, false);
-        }
-        BindRow(m_append, m_appendBound, values);
-        m_append.Run();
         return m_rowCount++;
     });
 }
@@ -139,16 +197,8 @@ int SqliteTable::Append(rfm_Value const* values) {
 void SqliteTable::Replace(int oid, rfm_Value const* values) {
     if (oid < 0 || oid >= RowCount())
         RaiseStore("table " + m_sqlTable + " has no row to be written again", __LINE__);
-    InStoreTerms([&] {
-        std::size_t const columns = m_metadata.Columns().size();
-        std::string marks = std::to_string(oid);
-        for (std::size_t i = 0; i < columns; ++i) marks += ",?";
-        SqliteStatement replace(m_connection,
-                                "REPLACE INTO " + SqlName(m_sqlTable) + " VALUES(" + marks + ")");
-        std::vector<bool> bound(columns);
-        BindRow(replace, bound, values);
-        replace.Run();
-    });
+    Flush();
+    InStoreTerms([&] { InsertAt(oid, "REPLACE", values); });
 }
 
 SqliteStatement SqliteTable::TakeReader() {
@@ -158,19 +208,25 @@ SqliteStatement SqliteTable::TakeReader() {
         return statement;
     }
     std::string const number = SqlName(rowNumberColumn);
-    std::string const columns = ColumnList();
-    return SqliteStatement(m_connection, "SELECT " + number + (columns.empty() ? "" : ",") +
-                                             columns + " FROM " + SqlName(m_sqlTable) + " WHERE " +
-                                             number + ">=? ORDER BY " + number);
+    std::string columns = "*";
+    // Names lengthen the preparation, and are only needed where the order differs.
+    if (!m_inOrder) {
+        columns = number;
+        if (m_metadata.ColumnCount() > 0) columns += ',' + ColumnList();
+    }
+    return SqliteStatement(m_connection, "SELECT " + columns + " FROM " + SqlName(m_sqlTable) +
+                                             " WHERE " + number + ">=? ORDER BY " + number);
 }
 
 std::unique_ptr<rfm_Cursor> SqliteTable::OpenCursor() {
+    Flush();
     return InStoreTerms([&]() -> std::unique_ptr<rfm_Cursor> {
         return std::make_unique<SqliteCursor>(*this, TakeReader());
     });
 }
 
 int SqliteTable::FindRow(int intColumn, long long integer, int textColumn, cow_String const& text) {
+    Flush();
     return InStoreTerms([&] {
         if (!m_find || m_findColumns[0] != intColumn || m_findColumns[1] != textColumn) {
             std::vector<rfm_Column> const& columns = m_metadata.Columns();
@@ -189,7 +245,7 @@ int SqliteTable::FindRow(int intColumn, long long integer, int textColumn, cow_S
         m_find.Bind(1, rfm_Value::OfText(text.Text(), text.Length()));
         long long const row = m_find.Step() ? m_find.Int(0) : -1;
         m_find.Reset();
-        return row >= 0 && row < RowCount() ? static_cast<int>(row) : -1;
+        return row >= 0 && row <= INT_MAX ? static_cast<int>(row) : -1;
     });
 }
 

@@ -32,8 +32,10 @@ public:
     /// In place of a file's size: the table is new and empty.
     static constexpr long long New = -1;
 
+    /// \p inOrder: the table has the row number and the columns of the layout in this order, and no
+    /// others.
     SqliteTable(SqliteConnection const& connection, rfm_TableMetadata const& metadata,
-                std::string const& sqlTable, long long fileSize);
+                std::string const& sqlTable, bool inOrder, long long fileSize);
     ~SqliteTable() override;
 
     rfm_TableMetadata const& Metadata() const override { return m_metadata; }
@@ -43,22 +45,43 @@ public:
     std::unique_ptr<rfm_Cursor> OpenCursor() override;
     int FindRow(int intColumn, long long integer, int textColumn, cow_String const& text) override;
 
+    /// Hands rows that still wait to SQLite. Whoever looks at the table other than through this
+    /// object calls it first.
+    void Flush();
+
     std::string const& SqlTable() const { return m_sqlTable; }
 
 private:
     friend class SqliteCursor;
 
-    void BindRow(SqliteStatement& statement, std::vector<bool>& bound, rfm_Value const* values);
+    /// A prepared INSERT, and which of its parameters hold values of its former run.
+    struct Insert {
+        SqliteStatement statement;
+        std::vector<bool> bound;
+    };
+    /// Rows that wait: values whose texts and bytes stand in a buffer, at the offset in `integer`.
+    struct Waiting {
+        std::vector<rfm_Value> values;
+        std::string data;
+        int rows = 0;
+    };
+
+    Insert MakeInsert(int rows) const;
+    void InsertAt(int oid, char const* verb, rfm_Value const* values);
+    void Wait(rfm_Value const* values);
+    void RunInsert(Insert& insert, rfm_Value const* values);
     SqliteStatement TakeReader();
     std::string ColumnList() const;
 
     SqliteConnection const& m_connection;
     rfm_TableMetadata m_metadata;
     std::string m_sqlTable;
+    bool m_inOrder;
     long long m_fileSize;
     int m_rowCount = -1;  ///< not asked yet
-    SqliteStatement m_append;
-    std::vector<bool> m_appendBound;  ///< the parameters that hold values of the former row
+    Insert m_insertOne;
+    Insert m_insertMany;
+    Waiting m_waiting;
     SqliteStatement m_find;
     int m_findColumns[2] = {-1, -1};
     /// Statements of cursors that are gone, for those to come.

@@ -139,7 +139,10 @@ private:
     }
 
     void CheckClass(CatalogueEntry const& entry, std::string const& schema) const {
-        std::optional<rfm_TableMetadata> const known = Known(entry.typeId);
+        std::optional<Registered> const known = Known(entry.typeId);
+        if (known && entry.version == known->version && entry.className == known->name &&
+            entry.parentTypeId == known->parentTypeId)
+            return;
         std::string const upgrade = "; `nga upgrade " + m_path + "` brings it up to date";
         std::string const what = "class " + entry.className + " (" + HexOf(entry.typeId) + ")";
         if (!known) {
@@ -147,35 +150,37 @@ private:
                 Fail(schema + " and holds " + what + ", which is gone" + upgrade);
             Fail("it holds " + what + ", which this nga does not know");
         }
-        if (entry.version < known->Version())
+        if (entry.version < known->version)
             Fail(schema + " and holds " + what + " in version " + std::to_string(entry.version) +
-                 " of " + std::to_string(known->Version()) + upgrade);
-        if (entry.version > known->Version() || known->Name() != entry.className.c_str() ||
-            entry.parentTypeId != known->ParentTypeId())
-            Fail("the catalogue of classes does not fit " + what);
+                 " of " + std::to_string(known->version) + upgrade);
+        Fail("the catalogue of classes does not fit " + what);
     }
 
-    static std::optional<rfm_TableMetadata> Known(unsigned typeId) {
-        switch (typeId) {
-            case cls_ListTypeId:
-                return rom_Layout::OfList();
-            case cls_MapTypeId:
-                return rom_Layout::OfMap();
-            case rom_Layout::listEntryTypeId:
-                return rom_Layout::OfListEntry();
-            case rom_Layout::mapEntryTypeId:
-                return rom_Layout::OfMapEntry();
-            default:
-                break;
+    /// What this build holds of a class, without its fields.
+    struct Registered {
+        std::string name;
+        int version;
+        unsigned parentTypeId;
+    };
+    static bool IsCollection(unsigned typeId) {
+        return typeId == cls_ListTypeId || typeId == cls_MapTypeId ||
+               typeId == rom_Layout::listEntryTypeId || typeId == rom_Layout::mapEntryTypeId;
+    }
+    static std::optional<Registered> Known(unsigned typeId) {
+        if (IsCollection(typeId)) {
+            rfm_TableMetadata const layout = rom_Layout::OfType(typeId, Registrar());
+            return Registered{std::string(layout.Name().View()), layout.Version(),
+                              layout.ParentTypeId()};
         }
         cls_ClassMetadata const* const metadata = Registrar().Find(typeId);
         if (!metadata) return std::nullopt;
-        return rom_Layout::OfClass(*metadata);
+        return Registered{std::string(metadata->Name().View()), metadata->Version(),
+                          metadata->ParentTypeId()};
     }
     static std::optional<rfm_TableMetadata> LayoutOf(CatalogueEntry const& entry) {
-        std::optional<rfm_TableMetadata> known = Known(entry.typeId);
-        if (known && known->Version() != entry.version) known.reset();
-        return known;
+        std::optional<Registered> const known = Known(entry.typeId);
+        if (!known || known->version != entry.version) return std::nullopt;
+        return rom_Layout::OfType(entry.typeId, Registrar());
     }
 
     std::string m_path;

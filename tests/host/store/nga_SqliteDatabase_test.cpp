@@ -182,6 +182,9 @@ TEST_F(SqliteStore, HoldsWhatAStoreInMemoryHolds) {
         rfm_MemoryDatabase memory;
         auto const built = SqliteDatabase::Build(path);
         int const classes = static_cast<int>(random() % 7);
+        // Now and then so many rows that they go in several at a time.
+        unsigned const steps = round % 6 == 5 ? 3000 : 300;
+        unsigned const replacing = steps == 3000 ? 200 : 8;
         auto const append = [&](unsigned typeId) {
             rfm_Table* const twin = memory.FindTable(typeId);
             std::vector<Cell> cells;
@@ -190,7 +193,7 @@ TEST_F(SqliteStore, HoldsWhatAStoreInMemoryHolds) {
                 cells.push_back(AnyCell(random, column.kind));
             for (Cell const& cell : cells) row.push_back(cell.View());
             rfm_Table* const table = built->FindTable(typeId);
-            if (twin->RowCount() > 0 && random() % 8 == 0) {
+            if (twin->RowCount() > 0 && random() % replacing == 0) {
                 int const oid =
                     static_cast<int>(random() % static_cast<unsigned>(twin->RowCount()));
                 twin->Replace(oid, row.data());
@@ -199,8 +202,19 @@ TEST_F(SqliteStore, HoldsWhatAStoreInMemoryHolds) {
                 EXPECT_EQ(twin->Append(row.data()), table->Append(row.data()));
             }
             EXPECT_EQ(twin->RowCount(), table->RowCount());
+            if (random() % 100 != 0) return;
+            // A row can be read as soon as it was appended.
+            auto const cursor = table->OpenCursor();
+            auto const twinCursor = twin->OpenCursor();
+            ASSERT_TRUE(cursor->Seek(twin->RowCount() - 1));
+            ASSERT_TRUE(twinCursor->Seek(twin->RowCount() - 1));
+            for (int column = 0; column < twin->Metadata().ColumnCount(); ++column)
+                ASSERT_TRUE(Cell(cursor->Value(column)) == Cell(twinCursor->Value(column)));
+            EXPECT_EQ(table->FindRow(0, 0, 1, cow_String("12")),
+                      twin->FindRow(0, 0, 1, cow_String("12")));
         };
-        for (int step = 0, n = static_cast<int>(random() % 300); classes > 0 && step < n; ++step) {
+        for (int step = 0, n = static_cast<int>(random() % steps); classes > 0 && step < n;
+             ++step) {
             unsigned const typeId = 100 + static_cast<unsigned>(random() % classes);
             if (!memory.FindTable(typeId)) {
                 EXPECT_EQ(built->FindTable(typeId), nullptr);
