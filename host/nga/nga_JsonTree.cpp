@@ -154,14 +154,14 @@ public:
     bool parse_error(std::size_t, std::string const&,
                      nlohmann::json::exception const& failure) override {
         int const line = Line(false);
-        if (failure.id == 406) throw Error("the number is out of range", Place(), line);
+        if (failure.id == 406) throw Error("the number is out of range", Place(true), line);
         std::string_view what = failure.what();
         // The parser's own number and position would only repeat ours.
         for (std::string_view const mark : {std::string_view("] "), std::string_view(": ")}) {
             std::size_t const found = what.find(mark);
             if (found != std::string_view::npos) what.remove_prefix(found + mark.size());
         }
-        throw Error("the text is no JSON: " + Printable(what), Place(), line);
+        throw Error("the text is no JSON: " + Printable(what), Place(true), line);
     }
 
 private:
@@ -192,7 +192,7 @@ private:
     bool Open(JsonNode::Kind kind) {
         JsonNode& node = Add(kind);
         if (m_open.size() >= static_cast<std::size_t>(jsonMaxDepth))
-            throw Error("the text nests too deep", Place(), node.line,
+            throw Error("the text nests too deep", Place(false), node.line,
                         "at most " + std::to_string(jsonMaxDepth) + " levels");
         // Pointers stay good: an owner's list grows only while none of its children is open.
         m_open.push_back(&node);
@@ -207,19 +207,21 @@ private:
         for (std::size_t i = 1; i < sorted.size(); ++i) {
             if (sorted[i]->key != sorted[i - 1]->key) continue;
             m_open.pop_back();
-            std::string place = Place();
+            std::string place = Place(false);
             JsonPlace::AddKey(place, sorted[i]->key);
             throw Error(
                 "the key stands twice, first in line " + std::to_string(sorted[i - 1]->value.line),
                 place, sorted[i]->value.line, "each key once");
         }
     }
-    std::string Place() const {
+    /// Where the parser is. With \p ahead, it has not got so far as to add the value that it reads.
+    std::string Place(bool ahead) const {
         std::string place;
         for (JsonNode const* open : m_open) {
             if (open->kind == JsonNode::Kind::Array) {
+                bool const next = ahead && open == m_open.back();
                 JsonPlace::AddIndex(place,
-                                    std::max(0, static_cast<int>(open->elements.size()) - 1));
+                                    static_cast<int>(open->elements.size()) - (next ? 0 : 1));
             } else if (!open->members.empty()) {
                 JsonPlace::AddKey(place, open->members.back().key);
             }

@@ -288,6 +288,7 @@ private:
 
     void To(mdl_Description const& owner, mdl_Field const& field) {
         m_now.path += FieldStep(owner, field);
+        m_now.owner = &owner;
         m_now.field = &field;
         m_now.at = field.At(m_now.object);
         m_now.what = Selection::What::Value;
@@ -341,7 +342,6 @@ private:
                 m_now.path += IndexStep(m_now.row);
                 return;
             case mdl_FieldKind::Option:
-            case mdl_FieldKind::Pending:
                 Fail("the option is not set", "");
             default:
                 Fail("nothing lies behind this value", "the end of the path");

@@ -42,6 +42,7 @@ struct Selection {
     nga::Collection const* collection = nullptr;
     mdl_Description const* description = nullptr;  ///< of the object, or of the field's owner
     void const* object = nullptr;
+    mdl_Description const* owner = nullptr;  ///< of the object that has the field
     mdl_Field const* field = nullptr;
     void const* at = nullptr;
     int row = 0;

@@ -217,7 +217,6 @@ std::string ObjectText(Selection const& selection) {
     for (mdl_Field const* field : description.AllFields()) {
         void const* const at = field->At(selection.object);
         mdl_FieldType const& type = field->Type();
-        if (type.Kind() == mdl_FieldKind::Pending) continue;
         // A material has 66 options; those that it lacks say nothing.
         if (type.Kind() == mdl_FieldKind::Option && !type.ConstObject(at, 0)) continue;
         shown.push_back(field);
@@ -241,7 +240,11 @@ void WriteSelected(JsonWriter& writer, Document const& document, Selection const
             return;
         }
         case Selection::What::Object: {
-            void const* const usual = defaults.Of(*selection.description);
+            // A member held by value has the defaults that its owner gives it.
+            bool const member =
+                selection.field && selection.field->Type().Kind() == mdl_FieldKind::Object;
+            void const* const usual = member ? selection.field->At(defaults.Of(*selection.owner))
+                                             : defaults.Of(*selection.description);
             WriteObject(writer, defaults, *selection.description, *selection.description,
                         selection.object, usual);
             return;

@@ -43,10 +43,10 @@ struct Record {
     cow_2DArray<double> array{0, 0};
 };
 
-constexpr char const* kSource = "platform/CaeUtils/DDB_DeepCopy";
+constexpr char const* deepCopySource = "platform/CaeUtils/DDB_DeepCopy";
 
 [[noreturn]] void Fail(char const* message, int line) {
-    nex_TextException(atr_raw(message)).Throw(kSource, line);
+    nex_TextException(atr_raw(message)).Throw(deepCopySource, line);
 }
 
 // ---- writing ---------------------------------------------------------------------------------

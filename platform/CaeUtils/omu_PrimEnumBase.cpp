@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr char const* kSource = "generated/include/omu_PrimEnum";
+constexpr char const* primEnumSource = "generated/include/omu_PrimEnum";
 
 cls_FieldHandle const& LiteralField() {
     static cls_FieldHandle const field(0, cow_String("literal"));
@@ -21,7 +21,7 @@ cls_FieldHandle const& LiteralField() {
 char const* OrEmpty(char const* text) { return text ? text : ""; }
 
 [[noreturn]] void Raise(atr_String const& message, int line) {
-    omu_ValueErrorException(message).Throw(kSource, line);
+    omu_ValueErrorException(message).Throw(primEnumSource, line);
 }
 
 // Literals are text of a script, not of the interface, so they are put in untranslated.

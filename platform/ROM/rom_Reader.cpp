@@ -8,12 +8,12 @@
 
 namespace {
 
-constexpr char const* kSource = "platform/ROM/rom_Reader";
+constexpr char const* readerSource = "platform/ROM/rom_Reader";
 
 [[noreturn]] void Fail(std::string const& text, int line) {
     atr_String message = atr_raw("%s");
     message.ReplaceNonTranslated(0, cow_String(text.c_str()));
-    nex_TextException(message).Throw(kSource, line);
+    nex_TextException(message).Throw(readerSource, line);
 }
 
 char const* TagName(rfm_Value::Tag tag) {
@@ -312,14 +312,11 @@ private:
 
 // ---- collections -----------------------------------------------------------------------------
 
-namespace {
-
-struct Range {
+// The entries that are still to be read.
+struct rom_Reader::Range {
     int next = 0;
     int end = 0;
 };
-
-}  // namespace
 
 class rom_Reader::ListReader final : public cls_ReadListObj {
 public:

@@ -23,6 +23,7 @@ public:
 
 private:
     class Memento;
+    struct Range;
     class ListReader;
     class MapReader;
     friend class Memento;

@@ -11,13 +11,13 @@ static_assert(std::endian::native == std::endian::little,
 
 namespace {
 
-constexpr char const* kSource = "platform/ROM/rom_Writer";
+constexpr char const* writerSource = "platform/ROM/rom_Writer";
 constexpr int kInProgress = -2;
 
 [[noreturn]] void Fail(char const* text, cow_String const& name, int line) {
     atr_String message = atr_raw(text);
     message.ReplaceNonTranslated(0, name);
-    nex_TextException(message).Throw(kSource, line);
+    nex_TextException(message).Throw(writerSource, line);
 }
 
 }  // namespace

@@ -1,0 +1,221 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "nga_JsonTree.h"
+#include "tool_runner.h"
+
+namespace {
+
+std::string const bracket = NGA_EXAMPLES "/bracket.json";
+std::string const zeroFactor = NGA_EXAMPLES "/zero_factor.json";
+
+std::vector<std::string> const verbs = {"new",   "import", "export",  "tree",      "show",
+                                        "check", "schema", "journal", "completion"};
+
+}  // namespace
+
+TEST(Tool, VersionAndHelpAreResults) {
+    ToolRun const version = RunNga({"--version"});
+    EXPECT_EQ(version.code, 0);
+    EXPECT_EQ(version.out.rfind("nga ", 0), 0u);
+    EXPECT_EQ(version.err, "");
+    ToolRun const help = RunNga({"--help"});
+    EXPECT_EQ(help.code, 0);
+    for (std::string const& verb : verbs)
+        EXPECT_NE(help.out.find("\n  " + verb), std::string::npos) << verb;
+}
+
+TEST(Tool, EveryVerbHasHelpWithAnExample) {
+    for (std::string const& verb : verbs) {
+        ToolRun const help = RunNga({verb, "--help"});
+        EXPECT_EQ(help.code, 0) << verb;
+        EXPECT_NE(help.out.find("Example:\n  nga " + verb), std::string::npos) << verb;
+    }
+}
+
+TEST(Tool, MisuseIsTwoWithAWordOnTheErrorStreamAlone) {
+    std::vector<std::vector<std::string>> const misuses = {
+        {},
+        {"chek", bracket},
+        {"check"},
+        {"check", bracket, "--jsn"},
+        {"check", bracket, "more"},
+        {"show", bracket},
+        {"import", bracket, "--on-conflict", "maybe"},
+        {"completion", "tcsh"},
+        {"--no-such-option"},
+    };
+    for (auto const& misuse : misuses) {
+        ToolRun const run = RunNga(misuse);
+        EXPECT_EQ(run.code, 2) << testing::PrintToString(misuse);
+        EXPECT_EQ(run.out, "") << testing::PrintToString(misuse);
+        EXPECT_EQ(run.err.rfind("nga: ", 0), 0u) << run.err;
+        EXPECT_NE(run.err.find("--help"), std::string::npos) << run.err;
+    }
+    EXPECT_EQ(RunNga({"chek", bracket}).err,
+              "nga: there is no verb 'chek' (did you mean 'check'?); see nga --help\n");
+}
+
+TEST(Tool, TheExampleIsValidAndHasEightMaterialsAndThreeLoadCases) {
+    ToolRun const check = RunNga({"check", bracket});
+    EXPECT_EQ(check.code, 0);
+    EXPECT_EQ(check.out, "");
+    EXPECT_EQ(check.err, "no findings\n");
+    nga::JsonNode const tree = nga::ParseJson(RunNga({"tree", bracket, "--json"}).out);
+    ASSERT_EQ(tree.Find("children")->elements.size(), 2u);
+    EXPECT_GE(tree.Find("children")->elements[0].Find("children")->elements.size(), 8u);
+    EXPECT_EQ(tree.Find("children")->elements[1].Find("children")->elements.size(), 3u);
+    for (nga::JsonNode const& material :
+         tree.Find("children")->elements[0].Find("children")->elements)
+        EXPECT_NE(material.Find("summary")->text, "") << "without a source";
+}
+
+TEST(Tool, TheExampleIsWrittenAsExportWritesIt) {
+    ToolRun const run = RunNga({"export", bracket});
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.out, FileContent(bracket));
+    EXPECT_EQ(RunNga({"export", "-"}, run.out).out, run.out);
+}
+
+TEST(Tool, AZeroFactorIsAFindingWithItsPathAndMessage) {
+    ToolRun const run = RunNga({"check", zeroFactor});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out,
+              "documents['zero_factor'].loadCases['overload']: klc 0: "
+              "A scale factor cannot be zero or blank.\n");
+    EXPECT_EQ(run.err, "1 finding\n");
+    EXPECT_EQ(RunNga({"check", zeroFactor, "--quiet"}).err, "");
+    ToolRun const json = RunNga({"check", "--json", zeroFactor});
+    EXPECT_EQ(json.code, 1);
+    EXPECT_EQ(json.err, "");
+    nga::JsonNode const finding = nga::ParseJson(json.out).Find("findings")->elements.at(0);
+    EXPECT_EQ(finding.Find("path")->text, "documents['zero_factor'].loadCases['overload']");
+    EXPECT_EQ(finding.Find("module")->text, "klc");
+    EXPECT_EQ(finding.Find("code")->integer, 0);
+    EXPECT_EQ(finding.Find("message")->text, "A scale factor cannot be zero or blank.");
+}
+
+TEST(Tool, EveryPathThatTreePrintsCanBeShown) {
+    std::string const paths = RunNga({"tree", bracket, "--paths"}).out;
+    std::size_t shown = 0;
+    for (std::size_t at = 0; at < paths.size(); at = paths.find('\n', at) + 1) {
+        std::string const line = paths.substr(at, paths.find('\n', at) - at);
+        std::string const path = line.substr(0, line.find("  "));
+        // A run for each would take long; the resolver's own tests take them all.
+        if (shown++ % 6 != 0) continue;
+        ToolRun const run = RunNga({"show", bracket, path});
+        EXPECT_EQ(run.code, 0) << path << run.err;
+        EXPECT_NE(run.out, "") << path;
+    }
+    EXPECT_GT(shown, 30u);
+}
+
+TEST(Tool, ShowPrintsAnObjectAndAValue) {
+    EXPECT_EQ(RunNga({"show", bracket, "materials['copper'].options['density'].table"}).out,
+              "[[8960.0]]\n");
+    EXPECT_EQ(
+        RunNga({"show", bracket, "materials['copper'].options['elastic'].type", "--json"}).out,
+        "{\n  \"path\": \"documents['bracket'].materials['copper'].options['elastic'].type\",\n"
+        "  \"value\": \"ISOTROPIC\"\n}\n");
+    ToolRun const missing = RunNga({"show", bracket, "materials['coper']"});
+    EXPECT_EQ(missing.code, 2);
+    EXPECT_EQ(missing.out, "");
+    EXPECT_EQ(missing.err,
+              "nga: documents['bracket'].materials: there is no entry 'coper' "
+              "(did you mean 'copper'?)\n");
+}
+
+TEST(Tool, AFailingTextNamesItsFileLineAndPlace) {
+    TemporaryFolder const folder;
+    std::string const file =
+        folder.Write("bad.json", "{\"materials\": {\n\"a\": {\"elastic\": {\"typ\": 1}}}}");
+    ToolRun const run = RunNga({"check", file});
+    EXPECT_EQ(run.code, 2);
+    EXPECT_EQ(run.err, "nga: " + file +
+                           ":2: materials.a.elastic.typ: unknown key (did you mean 'type'?); "
+                           "expected a member of Elastic\n");
+}
+
+TEST(Tool, WhatCannotBeReadIsOneClearFailure) {
+    TemporaryFolder const folder;
+    EXPECT_EQ(RunNga({"check", folder.Path("no.json")}).err,
+              "nga: " + folder.Path("no.json") + ": cannot open: No such file or directory\n");
+    std::filesystem::create_directory(folder.Path("dir.json"));
+    ToolRun const directory = RunNga({"check", folder.Path("dir.json")});
+    EXPECT_EQ(directory.code, 2);
+    EXPECT_EQ(directory.err, "nga: " + folder.Path("dir.json") + ": cannot read: Is a directory\n");
+}
+
+TEST(Tool, AFullDiskIsAFailureEvenForTheStandardOutput) {
+    if (!std::filesystem::exists("/dev/full")) GTEST_SKIP();
+    ToolRun const run = RunNga({"export", bracket, "--output", "/dev/full"});
+    EXPECT_EQ(run.code, 2);
+    EXPECT_EQ(run.err, "nga: /dev/full: cannot write: No space left on device\n");
+}
+
+TEST(Tool, ExportIntoAFileKeepsItsModeAndLeavesNoLitter) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Write("out.json", "old");
+    std::filesystem::permissions(file, std::filesystem::perms(0640));
+    std::filesystem::create_symlink(file, folder.Path("link.json"));
+    EXPECT_EQ(RunNga({"export", bracket, "-o", folder.Path("link.json")}).code, 0);
+    EXPECT_EQ(FileContent(file), FileContent(bracket));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link.json")));
+    EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0640));
+    int count = 0;
+    for (auto const& entry : std::filesystem::directory_iterator(folder.Path("")))
+        count += entry.exists();
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(RunNga({"export", bracket, "-o", folder.Path("no/such/out.json")}).code, 2);
+}
+
+TEST(Tool, JournalShowsTheRecordsOfAnImportAsTheyWereSent) {
+    TemporaryFolder const folder;
+    std::string const first = folder.Write("first.json", "{\"materials\": {\"b\": {}, \"a\": {}}}");
+    std::string const second = folder.Write("second.json", "{\"materials\": {\"a\": {}}}");
+    EXPECT_EQ(RunNga({"journal", first}).out, "('Insert', 'b', -99)\n('Insert', 'a', -99)\n");
+    EXPECT_EQ(RunNga({"journal", second, "--into", first, "--on-conflict", "replace"}).out,
+              "('Remove', 'a')\n('Insert', 'a', -99)\n");
+    EXPECT_EQ(RunNga({"journal", second, "--into", first, "--on-conflict", "keep", "--json"}).out,
+              "[]\n");
+    ToolRun const refused = RunNga({"journal", second, "--into", first});
+    EXPECT_EQ(refused.code, 2);
+    EXPECT_NE(refused.err.find("materials.a: the document has an object of this name already"),
+              std::string::npos);
+}
+
+TEST(Tool, SchemaPrintsOneClassOrAll) {
+    EXPECT_EQ(RunNga({"schema", "Elastic"}).out.rfind("kmaC_Elastic  0x238001E  version 203", 0),
+              0u);
+    nga::JsonNode const all = nga::ParseJson(RunNga({"schema", "--json"}).out);
+    EXPECT_GT(all.elements.size(), 10u);
+    ToolRun const unknown = RunNga({"schema", "Elastik"});
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_NE(unknown.err.find("'Elastic'"), std::string::npos);
+}
+
+TEST(Tool, CompletionScriptsKnowEveryVerbAndBashTakesOurs) {
+    for (std::string const shell : {"bash", "zsh", "fish"}) {
+        ToolRun const run = RunNga({"completion", shell});
+        EXPECT_EQ(run.code, 0);
+        for (std::string const& verb : verbs)
+            EXPECT_NE(run.out.find(verb), std::string::npos) << shell << verb;
+    }
+    TemporaryFolder const folder;
+    std::string const script = folder.Write(
+        "try.bash",
+        RunNga({"completion", "bash"}).out +
+            "COMP_WORDS=(nga ch); COMP_CWORD=1; _nga; echo \"${COMPREPLY[@]}\"\n"
+            "COMP_WORDS=(nga import a --on-conflict k); COMP_CWORD=4; _nga\n"
+            "echo \"${COMPREPLY[@]}\"\n"
+            "COMP_WORDS=(nga tree --pa); COMP_CWORD=2; _nga; echo \"${COMPREPLY[@]}\"\n");
+    std::string const command = "bash " + script + " > " + folder.Path("out") + " 2>&1";
+    ASSERT_EQ(std::system(command.c_str()), 0);
+    EXPECT_EQ(FileContent(folder.Path("out")), "check\nkeep\n--paths\n");
+}
+
+TEST(Tool, NothingIsColouredWithoutATerminal) {
+    EXPECT_EQ(RunNga({"check", zeroFactor}).out.find('\033'), std::string::npos);
+    EXPECT_EQ(RunNga({"chek"}).err.find('\033'), std::string::npos);
+}

@@ -1,0 +1,55 @@
+#include "nga_Schema.h"
+
+#include <gtest/gtest.h>
+
+#include "cls_ClassMetadata.h"
+#include "nga_Error.h"
+#include "nga_JsonTree.h"
+
+TEST(Schema, NamesConstructorsAndNumbersMeanTheSameClass) {
+    auto const byName = nga::SchemaClasses("kmaC_Elastic");
+    ASSERT_EQ(byName.size(), 1u);
+    EXPECT_EQ(nga::SchemaClasses("Elastic"), byName);
+    EXPECT_EQ(nga::SchemaClasses("0x238001e"), byName);
+}
+
+TEST(Schema, AnUnknownClassListsTheNear) {
+    try {
+        nga::SchemaClasses("kmaC_Elastik");
+        FAIL();
+    } catch (nga::Error const& failure) {
+        EXPECT_EQ(failure.Message().rfind(
+                      "there is no class 'kmaC_Elastik' (did you mean 'kmaC_Elastic'", 0),
+                  0u);
+    }
+}
+
+TEST(Schema, TheTextShowsNumbersCodesLiteralsAndDefaults) {
+    std::string const text = nga::SchemaText(nga::SchemaClasses("klcC_LoadCase"));
+    EXPECT_EQ(text.rfind("klcC_LoadCase  0x2DC0001  version 302  script LoadCase\n", 0), 0u);
+    EXPECT_NE(text.find("  1  fields                    predefinedFields          15    0x230002  "
+                        "63          map from text to floats  {}\n"),
+              std::string::npos)
+        << text;
+    EXPECT_NE(nga::SchemaText(nga::SchemaClasses("Elastic")).find("LAMINA, TRACTION"),
+              std::string::npos);
+}
+
+TEST(Schema, TheJsonHoldsEveryRegisteredClassAndField) {
+    auto const classes = nga::SchemaClasses();
+    nga::JsonNode const root = nga::ParseJson(nga::SchemaJson(classes));
+    ASSERT_EQ(root.elements.size(), classes.size());
+    for (std::size_t i = 0; i < classes.size(); ++i) {
+        nga::JsonNode const& shown = root.elements[i];
+        EXPECT_EQ(shown.Find("name")->text, std::string(classes[i]->Name().View()));
+        EXPECT_EQ(shown.Find("version")->integer, classes[i]->Version());
+        std::vector<cls_Attribute> const& attributes = classes[i]->Attributes();
+        ASSERT_EQ(shown.Find("fields")->elements.size(), attributes.size());
+        for (std::size_t j = 0; j < attributes.size(); ++j) {
+            nga::JsonNode const& field = shown.Find("fields")->elements[j];
+            EXPECT_EQ(field.Find("name")->text, std::string(attributes[j].field.Name().View()));
+            EXPECT_EQ(field.Find("code")->integer, attributes[j].type);
+            EXPECT_EQ(field.Find("collection")->integer, attributes[j].collection);
+        }
+    }
+}
