@@ -342,7 +342,6 @@ private:
                 m_now.path += IndexStep(m_now.row);
                 return;
             case mdl_FieldKind::Option:
-            case mdl_FieldKind::Pending:
                 Fail("the option is not set", "");
             default:
                 Fail("nothing lies behind this value", "the end of the path");

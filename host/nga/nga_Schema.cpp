@@ -93,7 +93,6 @@ struct Known {
             case mdl_FieldKind::Object:
                 if (!IsTable(*field->Type().Held())) return std::string();
                 break;
-            case mdl_FieldKind::Pending:
             case mdl_FieldKind::Option:
                 return "null";
             default:

@@ -215,9 +215,6 @@ void WriteField(JsonWriter& writer, Defaults& defaults, mdl_Field const& field, 
         case mdl_FieldKind::Array:
             WriteArray(writer, At<cls_xp2DArrayDouble>(at).ConstGet());
             return;
-        case mdl_FieldKind::Pending:
-            writer.Null();
-            return;
     }
 }
 

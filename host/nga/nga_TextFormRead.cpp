@@ -260,10 +260,6 @@ void ReadField(mdl_Field const& field, void* at, JsonNode const& node, JsonPlace
         case mdl_FieldKind::Array:
             ReadTable(node, place, *static_cast<cls_xp2DArrayDouble*>(at), nullptr, nullptr);
             return;
-        case mdl_FieldKind::Pending:
-            if (node.kind != Kind::Null)
-                Refuse(node, place, "this behaviour cannot be given yet", "null");
-            return;
     }
 }
 

@@ -217,7 +217,6 @@ std::string ObjectText(Selection const& selection) {
     for (mdl_Field const* field : description.AllFields()) {
         void const* const at = field->At(selection.object);
         mdl_FieldType const& type = field->Type();
-        if (type.Kind() == mdl_FieldKind::Pending) continue;
         // A material has 66 options; those that it lacks say nothing.
         if (type.Kind() == mdl_FieldKind::Option && !type.ConstObject(at, 0)) continue;
         shown.push_back(field);
