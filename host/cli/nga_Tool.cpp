@@ -210,7 +210,7 @@ private:
     int New() {
         RefuseExisting(m_arguments.file, "the name of a new file");
         Document document = Document::New(Document::StemOf(m_arguments.file));
-        document.SaveAs(m_arguments.file);
+        document.SaveAsNew(m_arguments.file);
         m_console.Say("made " + Printable(m_arguments.file));
         return exitFine;
     }
@@ -233,7 +233,7 @@ private:
             return ImportJson(document, text, ConflictRule(m_arguments.onConflict));
         });
         if (document.File().empty())
-            document.SaveAs(into);
+            document.SaveAsNew(into);
         else
             document.Save();
         if (m_arguments.json) {

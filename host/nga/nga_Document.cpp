@@ -7,28 +7,7 @@
 #include "nga_Names.h"
 #include "nga_SeparateIdentities.h"
 #include "nga_Start.h"
-
-#if __has_include("nga_Store.h")
 #include "nga_Store.h"
-#else
-namespace nga {
-
-struct FileStamp {};
-struct SaveOptions {};
-
-namespace {
-
-void SaveModel(ddr_Model const&, std::string const& path, SaveOptions const&) {
-    throw Error("this build has no record store", path);
-}
-std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp*) {
-    throw Error("this build has no record store", path);
-}
-
-}  // namespace
-
-}  // namespace nga
-#endif
 
 namespace nga {
 
@@ -45,27 +24,40 @@ Document Document::New(std::string const& name) {
 
 Document Document::Open(std::string const& path) {
     Start();
-    auto stamp = std::make_unique<FileStamp>();
-    Document document(LoadModel(path, stamp.get()));
-    document.m_model->Rename(cow_String(std::string_view(StemOf(path))));
+    FileStamp stamp;
+    Document document(LoadModel(path, &stamp));
     document.m_file = path;
-    document.m_stamp = std::move(stamp);
+    document.m_stamp = stamp;
     return document;
+}
+
+void Document::Write(std::string const& path, std::optional<FileStamp> const& expected) {
+    SeparateIdentities(*m_model);
+    SaveOptions options;
+    options.expected = expected;
+    options.isEmpty = [](mdl_Extension const& extension) {
+        return extension.DynTypeId() == HostExtension::TypeId() &&
+               static_cast<HostExtension const&>(extension).IsEmpty();
+    };
+    m_stamp = SaveModel(*m_model, path, options);
+    m_file = path;
 }
 
 void Document::Save() {
     if (m_file.empty())
-        throw Error("the document has no file yet", std::string(m_model->Name().View()), 0,
-                    "a path to save it under");
-    SeparateIdentities(*m_model);
-    SaveModel(*m_model, m_file, SaveOptions());
+        throw Error("the document has no file yet", Name(), 0, "a path to save it under");
+    Write(m_file, m_stamp);
 }
 
 void Document::SaveAs(std::string const& path) {
     RequireName(StemOf(path), "the document");
-    SeparateIdentities(*m_model);
-    SaveModel(*m_model, path, SaveOptions());
-    m_file = path;
+    Write(path, std::nullopt);
+    m_model->Rename(cow_String(std::string_view(StemOf(path))));
+}
+
+void Document::SaveAsNew(std::string const& path) {
+    RequireName(StemOf(path), "the document");
+    Write(path, FileStamp());
     m_model->Rename(cow_String(std::string_view(StemOf(path))));
 }
 

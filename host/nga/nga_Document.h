@@ -1,15 +1,15 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "ddr_Model.h"
 #include "klcC_LoadCase.h"
 #include "kmaC_Material.h"
+#include "nga_FileStamp.h"
 
 namespace nga {
-
-struct FileStamp;
 
 /// One model that a person works on, and the file that it came from or goes to. It owns the model
 /// and with it every object in it. A document and all copies of its objects belong to one thread.
@@ -27,8 +27,11 @@ public:
     /// Writes the document to its file, whole or not at all; refuses if somebody else changed the
     /// file meanwhile. A document without a file needs SaveAs.
     void Save();
-    /// Writes it to another file, which becomes its file and names it.
+    /// Writes it to another file, which becomes its file and names it. What stands there is
+    /// replaced.
     void SaveAs(std::string const& path);
+    /// The same, but refuses a file that is there already.
+    void SaveAsNew(std::string const& path);
 
     /// Empty for a document without a file.
     std::string const& File() const { return m_file; }
@@ -46,11 +49,12 @@ public:
 
 private:
     explicit Document(std::unique_ptr<ddr_Model> model);
+    void Write(std::string const& path, std::optional<FileStamp> const& expected);
 
     std::unique_ptr<ddr_Model> m_model;
     std::string m_file;
     /// How the file was when this document last met it.
-    std::unique_ptr<FileStamp> m_stamp;
+    FileStamp m_stamp;
 };
 
 }  // namespace nga

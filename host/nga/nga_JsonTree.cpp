@@ -93,7 +93,6 @@ public:
         return before;
     }
     friend bool operator==(Letters const& a, Letters const& b) { return a.m_at == b.m_at; }
-    friend bool operator!=(Letters const& a, Letters const& b) { return a.m_at != b.m_at; }
 
 private:
     char const* m_at;

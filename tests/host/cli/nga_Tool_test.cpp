@@ -185,6 +185,68 @@ TEST(Tool, JournalShowsTheRecordsOfAnImportAsTheyWereSent) {
               std::string::npos);
 }
 
+TEST(Tool, FromTextIntoADatabaseAndBack) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("bracket.nga");
+    EXPECT_EQ(RunNga({"new", file}).code, 0);
+    EXPECT_EQ(RunNga({"export", file}).out, "{\n  \"nga\": 1,\n  \"schema\": 1111\n}\n");
+    ToolRun const import = RunNga({"import", bracket, "--into", file});
+    EXPECT_EQ(import.code, 0) << import.err;
+    EXPECT_EQ(import.out, "");
+    EXPECT_EQ(import.err,
+              "materials: 9 added in " + file + "\nloadCases: 3 added in " + file + "\n");
+    EXPECT_EQ(RunNga({"check", file}).code, 0);
+    EXPECT_EQ(RunNga({"export", file}).out, FileContent(bracket));
+    EXPECT_EQ(RunNga({"tree", file}).out, RunNga({"tree", bracket}).out);
+    EXPECT_EQ(RunNga({"show", file, "materials['copper'].options['density'].table[0][0]"}).out,
+              "8960.0\n");
+}
+
+TEST(Tool, ImportMakesTheDocumentThatIsNotThere) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("fresh.nga");
+    ToolRun const run = RunNga({"import", bracket, "--into", file, "--json"});
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.err, "");
+    nga::JsonNode const report = nga::ParseJson(run.out);
+    EXPECT_EQ(report.Find("file")->text, file);
+    EXPECT_EQ(report.Find("materials")->Find("added")->integer, 9);
+    EXPECT_EQ(RunNga({"export", file}).out, FileContent(bracket));
+}
+
+TEST(Tool, ANameThatIsThereAlreadyFollowsTheStatedRule) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("d.nga");
+    std::string const first =
+        folder.Write("1.json", "{\"materials\": {\"a\": {\"description\": \"old\"}}}");
+    std::string const second =
+        folder.Write("2.json", "{\"materials\": {\"a\": {\"description\": \"new\"}}}");
+    ASSERT_EQ(RunNga({"import", first, "--into", file}).code, 0);
+    std::string const bytes = FileContent(file);
+    ToolRun const refused = RunNga({"import", second, "--into", file});
+    EXPECT_EQ(refused.code, 2);
+    EXPECT_NE(refused.err.find("2.json:1: materials.a: "), std::string::npos) << refused.err;
+    EXPECT_EQ(FileContent(file), bytes);
+    std::string const path = "materials['a'].description";
+    EXPECT_EQ(RunNga({"import", second, "--into", file, "--on-conflict", "keep"}).code, 0);
+    EXPECT_EQ(RunNga({"show", file, path}).out, "\"old\"\n");
+    EXPECT_EQ(RunNga({"import", second, "--into", file, "--on-conflict", "replace"}).code, 0);
+    EXPECT_EQ(RunNga({"show", file, path}).out, "\"new\"\n");
+}
+
+TEST(Tool, NewRefusesAPresentFileAndFilesOfOthersAreRefused) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Write("other.nga", "not ours");
+    for (auto const& arguments : std::vector<std::vector<std::string>>{
+             {"new", file}, {"tree", file}, {"check", file}, {"import", bracket, "--into", file}}) {
+        ToolRun const run = RunNga(arguments);
+        EXPECT_EQ(run.code, 2) << arguments[0];
+        EXPECT_EQ(run.out, "") << arguments[0];
+        EXPECT_EQ(run.err.rfind("nga: " + file + ": ", 0), 0u) << run.err;
+        EXPECT_EQ(FileContent(file), "not ours") << arguments[0];
+    }
+}
+
 TEST(Tool, SchemaPrintsOneClassOrAll) {
     EXPECT_EQ(RunNga({"schema", "Elastic"}).out.rfind("kmaC_Elastic  0x238001E  version 203", 0),
               0u);

@@ -78,8 +78,9 @@ TEST_F(Paths, AStepThatLeadsNowhereIsNamedWithWhatIsNear) {
               at + ": there is no entry 'stell' (did you mean 'steel'?)");
     EXPECT_EQ(FailureOf("material"),
               "documents['frame']: there is no collection 'material' (did you mean 'materials'?)");
-    EXPECT_EQ(FailureOf("materials['steel'].options['elastik']"),
-              at + "['steel']: there is no option 'elastik' (did you mean 'elastic'?)");
+    EXPECT_EQ(
+        FailureOf("materials['steel'].options['elastik']"),
+        at + "['steel']: there is no option 'elastik' (did you mean 'elastic' or 'plastic'?)");
     EXPECT_EQ(FailureOf("materials['steel'].descripton"),
               at + "['steel']: there is no attribute 'descripton' (did you mean 'description'?)");
     EXPECT_EQ(FailureOf("materials['steel'].options['density']"),

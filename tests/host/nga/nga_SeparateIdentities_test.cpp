@@ -6,6 +6,7 @@
 #include <random>
 #include <set>
 
+#include "../cli/tool_runner.h"
 #include "DDB_DeepCopy.h"
 #include "nga_Collection.h"
 #include "nga_Document.h"
@@ -154,6 +155,27 @@ TEST_P(EachWay, WhatIsSharedStaysOneAndNothingIsDetachedOrRecorded) {
     EXPECT_EQ(elasticOfA->uid == elasticOfB->uid, GetParam().shares);
     EXPECT_NE(a.uid, b.uid);
     EXPECT_EQ(Census(document).Doubled(), 0);
+}
+
+TEST_P(EachWay, CopiesChangedApartComeBackApartFromAFile) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("document.nga");
+    {
+        Document document = Document::New("document");
+        document.Materials().Insert("a", Steel());
+        GetParam().copy(document.Materials());
+        document.Materials().Get("b").elastic.Get().table.MutableCell(0, 0) = 1.0e11;
+        document.Materials().Get("b").elastic.Get().failStress.Get().dependencies = 2;
+        document.SaveAs(file);
+    }
+    Document const document = Document::Open(file);
+    kmaC_Elastic const& a = document.Materials().ConstGet("a").elastic.ConstGet();
+    kmaC_Elastic const& b = document.Materials().ConstGet("b").elastic.ConstGet();
+    EXPECT_EQ(a.table.Cell(0, 0), 2.1e11);
+    EXPECT_EQ(b.table.Cell(0, 0), 1.0e11);
+    EXPECT_EQ(a.table.Cell(0, 1), 0.0);
+    EXPECT_EQ(a.failStress.ConstGet().dependencies, 0);
+    EXPECT_EQ(b.failStress.ConstGet().dependencies, 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(SeparateIdentities, EachWay, testing::ValuesIn(ways),

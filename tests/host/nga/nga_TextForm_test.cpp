@@ -186,7 +186,7 @@ TEST_F(TextForm, ATableThatIsGivenKeepsTheFlagOfItsOwner) {
 }
 
 TEST_F(TextForm, NullMeansNotSet) {
-    auto const read = Read<SampleAll>("{\"leaf\": null, \"later\": null, \"parts\": [null]}");
+    auto const read = Read<SampleAll>("{\"leaf\": null, \"parts\": [null]}");
     EXPECT_EQ(read->leaf.GetPtr(), nullptr);
     ASSERT_EQ(read->parts.Size(), 1);
     EXPECT_EQ(read->parts.ConstGet(0).GetPtr(), nullptr);
@@ -258,7 +258,6 @@ TEST_F(TextForm, AWrongTypeIsRefusedWithWhatWasExpected) {
         {"{\"table\": {\"columns\": -1}}", "table.columns", "a number of columns"},
         {"{\"table\": {\"rows\": 1}}", "table.rows",
          "\"data\", \"columns\" or a flag of the table"},
-        {"{\"later\": {}}", "later", "null"},
         {"[]", "", "an object"},
     };
     for (auto const& one : cases) {

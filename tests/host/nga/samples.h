@@ -66,7 +66,6 @@ public:
     DD_FIELD(cls_xp1DArrayListDouble, doubles)
     DD_FIELD(cls_xpMapString2Float, floats)
     DD_FIELD(cls_xp2DArrayDouble, cells)
-    DD_PENDING(0x3850009, later)
     DD_END
 };
 
