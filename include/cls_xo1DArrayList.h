@@ -13,6 +13,7 @@ public:
         : context(ownerContext), uid(visitor.GetUid()) {
         std::unique_ptr<cls_ReadListObj> reader(visitor.Memento().OpenList());
         this->Resize(reader->Size());
+        reader->ExpectByValue(T::TypeId());
         while (reader->HasMore()) {
             cls_ReadVisitor const element(reader->NextMemento());
             this->Append(T(element));

@@ -91,8 +91,8 @@ private:
     void GrowBehind(int length);
     void GrowBefore(int entries);
     void DetachTable();
-    long long TableLengthFor(int n) const noexcept {
-        long long const needed = n ? static_cast<long long>(n) + start : 0;
+    long long TableLengthFor(long long n) const noexcept {
+        long long const needed = n ? n + start : 0;
         return ((16LL << shift) + needed - 1) >> (shift + 4) << 4;
     }
     cow_ListPage* NewPage(cow_ListElementOps const& ops) const;

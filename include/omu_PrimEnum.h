@@ -56,8 +56,9 @@ private:
     omu_EnumRow const* Rows() const override { return omu_Rows(E()); }
     bool Take(omu_EnumRow const* row) {
         if (!row) return false;
-        m_value = static_cast<E>(row->value);
+        // The literal first: it may fail for want of memory, and the two must stay in step.
         TakeLiteral(row->literal);
+        m_value = static_cast<E>(row->value);
         return true;
     }
 

@@ -67,6 +67,7 @@
 #include "mdl_Container.h"
 #include "mdl_Describe.h"
 #include "mdl_Description.h"
+#include "mdl_DynamicDestroyer.h"
 #include "mdl_Extension.h"
 #include "mdl_ExtensionSubject.h"
 #include "mdl_ExtensionWrapper.h"
@@ -100,6 +101,8 @@
 #include "rfm_Value.h"
 
 #include "ROM.h"
+#include "dbc_OldClassRegistrar.h"
+#include "dbc_OldClassVersion.h"
 #include "rom_Transporter.h"
 
 #include "DiagnosticExtractor.h"

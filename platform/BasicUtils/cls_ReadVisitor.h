@@ -20,6 +20,8 @@ public:
     virtual bool HasMore() = 0;
     /// The next element as a type-erased handle that the reader keeps; the caller shares it.
     virtual cow_HandleBase const& NextObject(unsigned typeId) = 0;
+    /// Says which class the elements by value are of; before the first of them.
+    virtual void ExpectByValue(unsigned typeId) = 0;
     /// The next element by value, for a cls_ReadVisitor, which releases it.
     virtual cls_MementoRead* NextMemento() = 0;
 };

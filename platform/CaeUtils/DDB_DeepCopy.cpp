@@ -264,6 +264,7 @@ public:
     cow_HandleBase const& NextObject(unsigned) override {
         return m_reading.Object(m_record->elements[m_next++].object.get());
     }
+    void ExpectByValue(unsigned) override {}
     cls_MementoRead* NextMemento() override {
         return new MemoryMemento(m_reading, m_record->elements[m_next++].object.get());
     }

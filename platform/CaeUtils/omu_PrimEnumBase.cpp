@@ -36,6 +36,7 @@ atr_String WithTexts(char const* format, char const* first, char const* second) 
 
 omu_PrimEnumBase::omu_PrimEnumBase(cls_ReadVisitor const& visitor) {
     visitor.Memento().ReadString(m_literal, LiteralField(), cow_String());
+    m_uid = visitor.GetUid();
 }
 
 cow_String omu_PrimEnumBase::TypeString() const { return cow_String("SymbolicConstant"); }

@@ -64,7 +64,8 @@ public:
     void DBWrite(cls_WriteVisitor const& visitor) const override;
 
     virtual int Size() const = 0;
-    /// A copy of the member, which the caller owns; raises on an index outside.
+    /// A copy of the member, which the caller owns; an index outside ends the process, as every
+    /// checked access does.
     virtual omu_Primitive* Index(int index) const = 0;
     /// New sequences, which the caller owns. Slice brings both ends into range; a negative one
     /// counts as the start.

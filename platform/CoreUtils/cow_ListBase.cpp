@@ -246,8 +246,12 @@ void cow_ListBase::MakeRoomAtFront(cow_ListElementOps const& ops) {
         return;
     }
     int const used = (size + (1 << shift) - 1) >> shift;
-    // Where all entries are used, 16 more come; all spare entries end up before the used ones.
-    int const spare = used == tableLength ? 16 : tableLength - used;
+    // Where all entries are used, the table grows to whole groups of 16; all spare entries end up
+    // before the used ones.
+    int const spare =
+        used == tableLength
+            ? static_cast<int>(TableLengthFor((static_cast<long long>(used) << shift) + 1) - used)
+            : tableLength - used;
     if ((static_cast<long long>(used + spare) << shift) > INT_MAX) throw std::bad_alloc();
     CopyArray();
     if (used == tableLength) {

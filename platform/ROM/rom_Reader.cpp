@@ -297,7 +297,7 @@ private:
         return data;
     }
     void CheckKind(unsigned typeId, int column, cls_CollectionType kind) {
-        if (m_table->metadata->TypeId() != typeId ||
+        if (!m_table->table || m_table->table->Metadata().TypeId() != typeId ||
             Integer(column, INT_MAX) != static_cast<long long>(kind))
             Fail(Row() + " holds another kind of collection than its field.", 300);
     }
@@ -344,16 +344,15 @@ public:
         return m_reader.Referred(m_cursor->Value(rom_Layout::ListEntryClass), oid, typeId,
                                  {nullptr, nullptr, "An element of a list"});
     }
+    void ExpectByValue(unsigned typeId) override { m_byValue = typeId; }
     cls_MementoRead* NextMemento() override {
         Step();
-        rfm_Value const typeId = m_cursor->Value(rom_Layout::ListEntryClass);
         rfm_Value const oid = m_cursor->Value(rom_Layout::ListEntryOid);
         if (oid.tag == rfm_Value::Null) return m_reader.Open(nullptr, -1);
-        if (typeId.tag != rfm_Value::Int || oid.tag != rfm_Value::Int || oid.integer < 0 ||
-            oid.integer > INT_MAX)
-            Fail("An element of a list refers to no row.", 351);
-        return m_reader.Open(&m_reader.TableFor(static_cast<unsigned>(typeId.integer)),
-                             static_cast<int>(oid.integer));
+        Origin const where{nullptr, nullptr, "An element of a list"};
+        unsigned const typeId =
+            m_reader.CheckedClass(m_cursor->Value(rom_Layout::ListEntryClass), m_byValue, where);
+        return m_reader.Open(&m_reader.TableFor(typeId), CheckedOid(oid, where));
     }
 
 private:
@@ -371,6 +370,7 @@ private:
     Range m_range;
     int m_size = 0;
     int m_owner = -1;
+    unsigned m_byValue = 0;
 };
 
 class rom_Reader::MapReader final : public cls_ReadMapString2Obj, public cls_ReadMapInt2Obj {

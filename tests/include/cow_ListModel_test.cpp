@@ -44,7 +44,10 @@ protected:
 
     static void ExpectSame(cow_List<T> const& list, Model const& model) {
         ASSERT_EQ(list.Size(), static_cast<int>(model.size()));
-        ASSERT_EQ(list.TableLength() % 16, list.Shift() > 4 ? list.TableLength() % 16 : 0);
+        // A hint alone may leave a table that is no multiple of 16, and only at larger pages.
+        if (list.Shift() == 4) {
+            ASSERT_EQ(list.TableLength() % 16, 0);
+        }
         cow_ListIter<T> walk(list);
         std::size_t i = 0;
         for (bool more = walk.First(); more; more = walk.Next(), ++i) {

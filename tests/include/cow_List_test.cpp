@@ -36,6 +36,26 @@ protected:
 };
 using CowListDeathTest = CowList;
 
+TEST(CowList, AFullHintedListGainsWholeGroupsOfItsTableAtTheFront) {
+    struct Case {
+        int hint, shift, table, start;
+    };
+    // Filled to the last slot of the table that the hint gave; one more element in front.
+    for (Case const expected :
+         {Case{256, 5, 32, 255}, Case{257, 5, 32, 223}, Case{4096, 9, 32, 4095}}) {
+        cow_List<int> list(cow_ListConstruct(), expected.hint);
+        int const slots = list.TableLength() << list.Shift();
+        for (int i = 0; i < slots; ++i) list.Append(i);
+        ASSERT_EQ(list.Start(), 0);
+        list.Prepend(-1);
+        EXPECT_EQ(list.Shift(), expected.shift) << expected.hint;
+        EXPECT_EQ(list.TableLength(), expected.table) << expected.hint;
+        EXPECT_EQ(list.Start(), expected.start) << expected.hint;
+        EXPECT_EQ(list.ConstGet(0), -1);
+        EXPECT_EQ(list.ConstGet(slots), slots - 1);
+    }
+}
+
 }  // namespace
 
 TEST_F(CowList, ANewListHasNoTable) {

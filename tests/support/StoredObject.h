@@ -150,6 +150,7 @@ public:
     using StoredElements::StoredElements;
     int Size() override { return static_cast<int>(m_object.elements.size()); }
     cow_HandleBase const& NextObject(unsigned typeId) override { return Take(typeId); }
+    void ExpectByValue(unsigned) override {}
     cls_MementoRead* NextMemento() override {
         m_object.lines += "element by value\n";
         return m_object.elements[m_next++].value->Memento();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mdl_Describe.h"
+#include "mdl_DynamicDestroyer.h"
 #include "mdl_MapString2ObjCow.h"
 
 /// A load case: a named combination of loads, boundary conditions and predefined fields, each a
@@ -25,6 +26,9 @@ public:
     DD_FIELD(bool, includeActiveBaseStateBC, true)
     DD_END
 };
+
+template <>
+struct cow_Destroyer<klcC_LoadCase> : mdl_DynamicDestroyer<klcC_LoadCase> {};
 
 /// The repository of load cases. It is no extension of the model: its host holds it.
 using klcC_LoadCaseCont = mdl_MapString2ObjCow<klcC_LoadCase>;

@@ -57,6 +57,7 @@
 #include "kmaC_Viscoelastic.h"
 #include "kmaC_Viscous.h"
 #include "mdl_Describe.h"
+#include "mdl_DynamicDestroyer.h"
 #include "mdl_ExtensionWrapper.h"
 #include "mdl_MapString2ObjCow.h"
 
@@ -150,6 +151,9 @@ public:
     // clang-format on
     DD_END
 };
+
+template <>
+struct cow_Destroyer<kmaC_Material> : mdl_DynamicDestroyer<kmaC_Material> {};
 
 /// The repository of materials, and the wrapper that makes it an extension of the model.
 using kmaC_MaterialContainer = mdl_MapString2ObjCow<kmaC_Material>;

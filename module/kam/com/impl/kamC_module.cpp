@@ -13,10 +13,8 @@ uti_Guard kamGuard;
 void kamC_initialize(int& count) {
     if (!kamGuard.Raise(count)) return;
     typ_ArchCompTable::InsertEntry(kamC_component, kamC_ArchEntry());
-    // Registration of the module: extension, class metadata, old class versions.
 }
 
 void kamC_finalize(int& count) {
-    if (!kamGuard.Lower(count)) return;
-    // What the module must undo.
+    kamGuard.Lower(count);
 }

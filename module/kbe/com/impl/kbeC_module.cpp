@@ -13,7 +13,6 @@ uti_Guard kbeGuard;
 void kbeC_initialize(int& count) {
     if (!kbeGuard.Raise(count)) return;
     typ_ArchCompTable::InsertEntry(kbeC_component, kbeC_ArchEntry());
-    // Registration of the module: extension, class metadata, old class versions.
 }
 
 void kbeC_finalize(int& count) { kbeGuard.Lower(count); }

@@ -13,12 +13,10 @@ uti_Guard kflGuard;
 void kflC_initialize(int& count) {
     if (!kflGuard.Raise(count)) return;
     typ_ArchCompTable::InsertEntry(kflC_component, kflC_ArchEntry());
-    // Registration of the module: extension, class metadata, old class versions.
 }
 
 void kflC_finalize(int& count) {
-    if (!kflGuard.Lower(count)) return;
-    // What the module must undo.
+    kflGuard.Lower(count);
 }
 
 void kflC_formalize() {}
