@@ -80,9 +80,13 @@ SafeFile::SafeFile(std::string const& path) : m_path(path), m_target(path) {
     Make();
 }
 
-SafeFile::~SafeFile() {
+SafeFile::~SafeFile() { Discard(); }
+
+void SafeFile::Discard() noexcept {
     if (!m_part.empty()) unlink(m_part.c_str());
     if (m_file >= 0) close(m_file);
+    m_part.clear();
+    m_file = -1;
 }
 
 void SafeFile::Fail(std::string const& what, int system) const {
@@ -95,8 +99,8 @@ void SafeFile::Make() {
     struct stat former;
     bool const replaces = m_former.exists && stat(m_target.c_str(), &former) == 0;
     for (int attempt = 0; attempt < attemptsAtMost; ++attempt) {
-        std::string const part = m_folder + "/" + PartPrefix() + std::to_string(getpid()) + "-" +
-                                 std::to_string(attempt) + partSuffix;
+        std::string part = m_folder + "/" + PartPrefix() + std::to_string(getpid()) + "-" +
+                           std::to_string(attempt) + partSuffix;
         // Nobody who may not read the former file is to see its successor grow.
         int const file =
             open(part.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, replaces ? 0600 : 0666);
@@ -111,11 +115,17 @@ void SafeFile::Make() {
             m_file = -1;
             continue;
         }
-        m_part = part;
+        // Nothing may fail between the file's making and this.
+        m_part.swap(part);
         if (replaces) {
             // Only the superuser can give a file away; for others it stays their own.
             if (fchown(file, former.st_uid, former.st_gid) != 0) errno = 0;
-            if (fchmod(file, former.st_mode & 07777) != 0) Fail("its mode cannot be kept", errno);
+            if (fchmod(file, former.st_mode & 07777) != 0) {
+                int const why = errno;
+                // The constructor fails, so no destructor will do it.
+                Discard();
+                Fail("its mode cannot be kept", why);
+            }
         }
         return;
     }

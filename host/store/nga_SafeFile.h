@@ -33,6 +33,7 @@ public:
 private:
     [[noreturn]] void Fail(std::string const& what, int system) const;
     void Make();
+    void Discard() noexcept;
     void RemoveStale() const;
     std::string PartPrefix() const;
 
