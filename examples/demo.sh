@@ -33,6 +33,12 @@ step "Out again as text: the same text however often it goes through the databas
 cmp first.json second.json
 printf '%s bytes of text, equal\n' "$(wc -c < second.json)"
 
+step "A material of each family: rubber, concrete, soil, foam, gasket, water and more"
+cp "$examples/every_option.json" .
+shown import every_option.json --into every_option.nga
+shown check every_option.nga
+"$nga" export every_option.nga | cmp - every_option.json
+
 step "What is wrong is named, with its place: a load case with a scale factor of zero"
 cp "$examples/zero_factor.json" .
 shown import zero_factor.json --into zero_factor.nga

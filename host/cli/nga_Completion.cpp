@@ -33,6 +33,9 @@ std::vector<Verb> VerbsOf(CLI::App& tool) {
         if (verb.name == "completion") verb.words = "bash zsh fish";
         verbs.push_back(verb);
     }
+    for (Verb& verb : verbs)
+        if (verb.name == "help")
+            for (Verb const& other : verbs) verb.words += other.name + " ";
     return verbs;
 }
 

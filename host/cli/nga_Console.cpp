@@ -33,6 +33,13 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
     throw Error(std::string(what) + ": " + std::strerror(cause), path);
 }
 
+// The store says of databases what is said here of texts, in the same words.
+[[noreturn]] void FailRead(char const* what, std::string const& path, int cause) {
+    if (cause == ENOENT) throw Error("there is no such file", path);
+    if (cause == EISDIR) throw Error("this is a folder", path);
+    FailFile(what, NameOfFile(path), cause);
+}
+
 }  // namespace
 
 Console::Console() : m_colourOut(Coloured(1)), m_colourErr(Coloured(2)) {}
@@ -40,11 +47,20 @@ Console::Console() : m_colourOut(Coloured(1)), m_colourErr(Coloured(2)) {}
 void Console::Result(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }
 
 void Console::Say(std::string const& text) {
-    if (!quiet) std::fprintf(stderr, "%s\n", text.c_str());
+    if (quiet) return;
+    // Results come first where both streams lead to one place. A failure shows at Finish.
+    std::fflush(stdout);
+    std::fprintf(stderr, "%s\n", text.c_str());
 }
 
 void Console::Fail(std::string const& text) {
+    std::fflush(stdout);
     std::fprintf(stderr, m_colourErr ? "\033[31mnga:\033[0m %s\n" : "nga: %s\n", text.c_str());
+}
+
+void Console::Explain(std::string const& text) {
+    std::fflush(stdout);
+    std::fputs(text.c_str(), stderr);
 }
 
 std::string Console::Strong(std::string const& text) const {
@@ -59,19 +75,23 @@ void Console::Finish() {
     if (std::ferror(stdout)) throw Error("cannot write", "the standard output");
 }
 
+std::string NameOfFile(std::string const& path) {
+    return path == "-" ? "the standard input" : path;
+}
+
 std::string ReadText(std::string const& path) {
     File opened;
     std::FILE* file = stdin;
     if (path != "-") {
         opened.reset(std::fopen(path.c_str(), "rb"));
-        if (!opened) FailFile("cannot open", path, errno);
+        if (!opened) FailRead("cannot open", path, errno);
         file = opened.get();
     }
     std::string text;
     char block[65536];
     while (std::size_t const count = std::fread(block, 1, sizeof block, file))
         text.append(block, count);
-    if (std::ferror(file)) FailFile("cannot read", path, errno);
+    if (std::ferror(file)) FailRead("cannot read", path, errno);
     return text;
 }
 

@@ -19,6 +19,8 @@ public:
     void Say(std::string const& text);
     /// Why the tool could not do it; never left out.
     void Fail(std::string const& text);
+    /// Help for somebody who did not ask for it; never left out.
+    void Explain(std::string const& text);
     /// A part of a result that shall stand out.
     std::string Strong(std::string const& text) const;
     std::string Alarming(std::string const& text) const;
@@ -31,6 +33,8 @@ private:
     bool m_colourErr;
 };
 
+/// How messages call a file that the command line names.
+std::string NameOfFile(std::string const& path);
 /// The whole of a file, or of the standard input for "-".
 std::string ReadText(std::string const& path);
 /// Puts a text in the place of a file: whole, or the file stays as it was.

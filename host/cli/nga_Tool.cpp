@@ -32,6 +32,7 @@ struct Arguments {
     std::string onConflict = "error";
     std::string className;
     std::string shell;
+    std::string verb;
     bool json = false;
     bool paths = false;
 };
@@ -47,8 +48,9 @@ auto InFile(std::string const& file, Do work) {
     try {
         return work();
     } catch (Error const& failure) {
-        std::string const place =
-            failure.Line() > 0 ? file + ":" + std::to_string(failure.Line()) : file;
+        std::string const place = failure.Line() > 0
+                                      ? NameOfFile(file) + ":" + std::to_string(failure.Line())
+                                      : NameOfFile(file);
         throw Error(failure.Message(),
                     failure.Place().empty() ? place : place + ": " + failure.Place(), 0,
                     failure.Expected());
@@ -69,6 +71,14 @@ Document OpenAny(std::string const& file) {
     return document;
 }
 
+/// A name under which the tool would read a text is none for a database that it makes or changes.
+void RefuseTextName(std::string const& file) {
+    if (file == "-" || EndsWith(file, ".json"))
+        throw Error("a database cannot stand there: under this name a JSON text is read", file, 0,
+                    "the name of a database, such as " +
+                        (file == "-" ? "document" : Document::StemOf(file)) + ".nga");
+}
+
 void RefuseExisting(std::string const& file, std::string const& expected) {
     std::error_code ignored;
     if (std::filesystem::exists(std::filesystem::symlink_status(file, ignored)))
@@ -86,6 +96,7 @@ public:
     explicit Tool(Console& console) : m_console(console) {
         Arguments& a = m_arguments;
         m_app.require_subcommand(1);
+        m_app.get_formatter()->label("SUBCOMMAND", "VERB");
         m_app.set_version_flag("--version", toolVersion);
         m_app.add_flag("-q,--quiet", m_console.quiet, "Say nothing but results and failures");
         m_app.footer(
@@ -94,27 +105,29 @@ public:
             "Example:\n  nga import examples/bracket.json --into bracket.nga");
 
         CLI::App* verb = Verb("new", "Make an empty document", "nga new bridge.nga", &Tool::New);
-        verb->add_option("FILE", a.file, "The new file")->required();
+        verb->add_option("FILE", a.file, "The new file")->required()->type_name("");
 
         verb = Verb("import", "Put the objects of a JSON text into a document",
                     "nga import examples/bracket.json --into bracket.nga --on-conflict replace",
                     &Tool::Import);
-        verb->add_option("TEXT", a.file, "The JSON text, or - for the standard input")->required();
+        Text(verb);
         verb->add_option("--into", a.into,
                          "The document, made if it is not there; without this a new one in this "
-                         "folder, named as the text");
+                         "folder, named as the text")
+            ->type_name("FILE");
         Conflicts(verb);
         Json(verb);
 
         verb = Verb("export", "Write a document as JSON text",
                     "nga export bracket.nga --output bracket.json", &Tool::Export);
         File(verb);
-        verb->add_option("-o,--output", a.output, "A file instead of the standard output");
+        verb->add_option("-o,--output", a.output, "A file instead of the standard output")
+            ->type_name("FILE");
 
         verb = Verb("tree", "Show the objects of a document",
                     "nga tree bracket.nga \"materials['steel']\"", &Tool::Tree);
         File(verb);
-        verb->add_option("PATH", a.path, "Only what stands at and below this path");
+        verb->add_option("PATH", a.path, "Only what stands at and below this path")->type_name("");
         verb->add_flag("--paths", a.paths, "A whole path a line instead of indented steps");
         Json(verb);
 
@@ -123,7 +136,8 @@ public:
                     &Tool::Show);
         File(verb);
         verb->add_option("PATH", a.path, "As tree and check print it; the document's step may miss")
-            ->required();
+            ->required()
+            ->type_name("");
         Json(verb);
 
         verb = Verb("check", "List every object that breaks a rule; exit code 1 if there is one",
@@ -133,13 +147,15 @@ public:
 
         verb = Verb("schema", "Show one class or all, as they are registered", "nga schema Elastic",
                     &Tool::Schema);
-        verb->add_option("CLASS", a.className, "Persistent name, script constructor or 0x TypeId");
+        verb->add_option("CLASS", a.className, "Persistent name, script constructor or 0x TypeId")
+            ->type_name("");
         Json(verb);
 
         verb = Verb("journal", "Show the change records of an import, without saving anything",
                     "nga journal examples/bracket.json", &Tool::Journal);
-        verb->add_option("TEXT", a.file, "The JSON text, or - for the standard input")->required();
-        verb->add_option("--into", a.into, "The document to import into, left as it is");
+        Text(verb);
+        verb->add_option("--into", a.into, "The document to import into, left as it is")
+            ->type_name("FILE");
         Conflicts(verb);
         Json(verb);
 
@@ -148,10 +164,18 @@ public:
                     &Tool::Completion);
         verb->add_option("SHELL", a.shell, "bash, zsh or fish")
             ->required()
-            ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+            ->type_name("")
+            ->check(CLI::IsMember({"bash", "zsh", "fish"}).description(""));
+
+        verb = Verb("help", "Show this help, or that of one verb", "nga help import", &Tool::Help);
+        verb->add_option("VERB", a.verb, "The verb")->type_name("");
     }
 
     int Run(int argc, char const* const* argv) {
+        if (argc < 2) {
+            m_console.Explain(m_app.help());
+            return exitFailure;
+        }
         try {
             m_app.parse(argc, argv);
         } catch (CLI::Success const& wanted) {
@@ -170,7 +194,11 @@ private:
 
     CLI::App* Verb(char const* name, char const* help, char const* example, Action action) {
         CLI::App* verb = m_app.add_subcommand(name, help);
-        verb->footer(std::string("Example:\n  ") + example);
+        verb->group("Verbs");
+        verb->footer(
+            "Every verb takes -q,--quiet too, which leaves out all but results and "
+            "failures.\nExample:\n  " +
+            std::string(example));
         verb->callback([this, action] { m_chosen = action; });
         verb->fallthrough();
         return verb;
@@ -179,35 +207,67 @@ private:
         verb->add_option("FILE", m_arguments.file,
                          "A database, a .json text, or - for a text on "
                          "the standard input")
-            ->required();
+            ->required()
+            ->type_name("");
+    }
+    void Text(CLI::App* verb) {
+        verb->add_option("TEXT", m_arguments.file, "The JSON text, or - for the standard input")
+            ->required()
+            ->type_name("");
     }
     void Json(CLI::App* verb) { verb->add_flag("--json", m_arguments.json, "Report as JSON"); }
     void Conflicts(CLI::App* verb) {
         verb->add_option("--on-conflict", m_arguments.onConflict,
                          "For a name that the document has already: error refuses the whole "
                          "import, keep leaves the document's object, replace takes the text's")
+            ->type_name("RULE")
             ->check(CLI::IsMember({"error", "keep", "replace"}))
             ->capture_default_str();
     }
 
-    std::string Misuse(int argc, char const* const* argv, CLI::ParseError const& failure) {
+    std::vector<std::string> VerbNames() const {
         std::vector<std::string> names;
-        for (CLI::App const* verb : m_app.get_subcommands([](CLI::App*) { return true; }))
+        for (CLI::App const* verb : m_app.get_subcommands([](CLI::App const*) { return true; }))
             names.push_back(verb->get_name());
+        return names;
+    }
+    static std::string NoVerb(std::string const& word, std::vector<std::string> const& names) {
+        return "there is no verb " + Quoted(word) + DidYouMean(word, names);
+    }
+    std::string Misuse(int argc, char const* const* argv, CLI::ParseError const& failure) {
+        std::vector<std::string> const names = VerbNames();
         std::string help = "nga --help";
+        bool verb = false;
         for (int i = 1; i < argc; ++i) {
             std::string const word = argv[i];
             if (word.empty() || word[0] == '-') continue;
             if (std::find(names.begin(), names.end(), word) == names.end())
-                return "there is no verb " + Quoted(word) + DidYouMean(word, names) + "; see " +
-                       help;
+                return NoVerb(word, names) + "; see " + help;
             help = "nga " + word + " --help";
+            verb = true;
             break;
         }
+        if (!verb && dynamic_cast<CLI::RequiredError const*>(&failure))
+            return "a verb is missing; see " + help;
         return Printable(failure.what()) + "; see " + help;
     }
 
+    int Help() {
+        if (m_arguments.verb.empty()) {
+            // The application's own help() gives that of the verb at work, which is this one.
+            m_console.Result(m_app.get_formatter()->make_help(&m_app, m_app.get_name(),
+                                                              CLI::AppFormatMode::Normal));
+            return exitFine;
+        }
+        std::vector<std::string> const names = VerbNames();
+        if (std::find(names.begin(), names.end(), m_arguments.verb) == names.end())
+            throw Error(NoVerb(m_arguments.verb, names));
+        m_console.Result(m_app.get_subcommand(m_arguments.verb)->help("nga"));
+        return exitFine;
+    }
+
     int New() {
+        RefuseTextName(m_arguments.file);
         RefuseExisting(m_arguments.file, "the name of a new file");
         Document document = Document::New(Document::StemOf(m_arguments.file));
         document.SaveAsNew(m_arguments.file);
@@ -223,7 +283,9 @@ private:
 
     int Import() {
         std::string into = m_arguments.into;
-        if (into.empty()) {
+        if (!into.empty()) {
+            RefuseTextName(into);
+        } else {
             into = NameFor(m_arguments.file) + ".nga";
             RefuseExisting(into, "--into to say that this document is meant");
         }
@@ -283,6 +345,10 @@ private:
     int Tree() {
         Document const document = OpenAny(m_arguments.file);
         Selection const from = Resolve(document, m_arguments.path);
+        if (from.what != Selection::What::Document && from.what != Selection::What::Collection &&
+            from.what != Selection::What::Object)
+            throw Error("no object stands there, and show prints what does", from.path, 0,
+                        "the path of an object, of a collection or of the document");
         TreeNode const tree = BuildTree(document, from);
         m_console.Result(m_arguments.json ? TreeJson(tree) : TreeText(tree, m_arguments.paths));
         return exitFine;

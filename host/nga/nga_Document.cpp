@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "nga_Collection.h"
 #include "nga_Error.h"
 #include "nga_HostExtension.h"
 #include "nga_Names.h"
@@ -10,6 +11,22 @@
 #include "nga_Store.h"
 
 namespace nga {
+
+namespace {
+
+/// Where a name leads to no object: "materials['steel']". Empty if every name leads to one, as all
+/// that walks a document takes for granted.
+std::string NameOfNothing(ddr_Model const& model) {
+    std::string place;
+    for (Collection const* collection : Collection::All())
+        collection->Each(model, [&](cow_String const& key, void const* object) {
+            if (!object && place.empty())
+                place = std::string(collection->Name()) + "['" + std::string(key.View()) + "']";
+        });
+    return place;
+}
+
+}  // namespace
 
 Document::Document(std::unique_ptr<ddr_Model> model) : m_model(std::move(model)) {}
 Document::Document(Document&&) noexcept = default;
@@ -26,12 +43,16 @@ Document Document::Open(std::string const& path) {
     Start();
     FileStamp stamp;
     Document document(LoadModel(path, &stamp));
+    if (std::string const place = NameOfNothing(*document.m_model); !place.empty())
+        throw StoreError(path, place + " is a name without an object");
     document.m_file = path;
     document.m_stamp = stamp;
     return document;
 }
 
-void Document::Write(std::string const& path, std::optional<FileStamp> const& expected) {
+void Document::Write(std::string const& path, FileStamp const& expected) {
+    if (std::string const place = NameOfNothing(*m_model); !place.empty())
+        throw Error("the name has no object, so nothing was saved", place);
     SeparateIdentities(*m_model);
     SaveOptions options;
     options.expected = expected;
@@ -39,8 +60,9 @@ void Document::Write(std::string const& path, std::optional<FileStamp> const& ex
         return extension.DynTypeId() == HostExtension::TypeId() &&
                static_cast<HostExtension const&>(extension).IsEmpty();
     };
+    std::string file = path;
     m_stamp = SaveModel(*m_model, path, options);
-    m_file = path;
+    m_file.swap(file);
 }
 
 void Document::Save() {
@@ -49,17 +71,21 @@ void Document::Save() {
     Write(m_file, m_stamp);
 }
 
-void Document::SaveAs(std::string const& path) {
-    RequireName(StemOf(path), "the document");
-    Write(path, std::nullopt);
-    m_model->Rename(cow_String(std::string_view(StemOf(path))));
+void Document::SaveUnder(std::string const& path, FileStamp const& expected) {
+    std::string const stem = StemOf(path);
+    RequireName(stem, "the document");
+    // Made before the file is: once that stands, nothing may fail any more.
+    cow_String const name{std::string_view(stem)};
+    Write(path, expected);
+    m_model->Rename(name);
 }
 
-void Document::SaveAsNew(std::string const& path) {
-    RequireName(StemOf(path), "the document");
-    Write(path, FileStamp());
-    m_model->Rename(cow_String(std::string_view(StemOf(path))));
+void Document::SaveAs(std::string const& path) {
+    // As it stands now; what comes there while the document is written is somebody else's.
+    SaveUnder(path, FileStamp::Of(path));
 }
+
+void Document::SaveAsNew(std::string const& path) { SaveUnder(path, FileStamp()); }
 
 kmaC_MaterialContainer& Document::Materials() {
     return static_cast<kmaC_MaterialContainer&>(

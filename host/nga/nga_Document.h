@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "ddr_Model.h"
@@ -27,8 +26,8 @@ public:
     /// Writes the document to its file, whole or not at all; refuses if somebody else changed the
     /// file meanwhile. A document without a file needs SaveAs.
     void Save();
-    /// Writes it to another file, which becomes its file and names it. What stands there is
-    /// replaced.
+    /// Writes it to another file, which becomes its file and names it. What stands there at
+    /// the call is replaced; what comes there during it is not, and the save fails.
     void SaveAs(std::string const& path);
     /// The same, but refuses a file that is there already.
     void SaveAsNew(std::string const& path);
@@ -49,7 +48,8 @@ public:
 
 private:
     explicit Document(std::unique_ptr<ddr_Model> model);
-    void Write(std::string const& path, std::optional<FileStamp> const& expected);
+    void SaveUnder(std::string const& path, FileStamp const& expected);
+    void Write(std::string const& path, FileStamp const& expected);
 
     std::unique_ptr<ddr_Model> m_model;
     std::string m_file;

@@ -272,6 +272,26 @@ void SqliteDatabase::AddIndex(unsigned typeId, int intColumn, int textColumn) {
     });
 }
 
+void SqliteDatabase::RequireUnique(unsigned typeId, int intColumn, int keyColumn) {
+    auto const* const table = static_cast<SqliteTable*>(FindTable(typeId));
+    if (!table) return;
+    InStoreTerms([&] {
+        std::vector<rfm_Column> const& columns = table->Metadata().Columns();
+        std::string const number =
+            SqlName(columns[static_cast<std::size_t>(intColumn)].name.View());
+        std::string const key = SqlName(columns[static_cast<std::size_t>(keyColumn)].name.View());
+        // Along the index of the two columns, where the file has it.
+        SqliteStatement twice(m_connection, "SELECT max(" + SqlName(rowNumberColumn) + ")," + key +
+                                                " FROM " + SqlName(table->SqlTable()) + " WHERE " +
+                                                number + ">=0 GROUP BY " + number + "," + key +
+                                                " HAVING count(*)>1 LIMIT 1");
+        if (twice.Step())
+            RaiseStore("row " + std::to_string(twice.Int(0)) + " of table " + table->SqlTable() +
+                           " has the key of another, '" + twice.Text(1) + "'",
+                       __LINE__);
+    });
+}
+
 void SqliteDatabase::Finish() {
     for (auto const& [typeId, table] : m_tables) table->Flush();
     InStoreTerms([&] {

@@ -53,6 +53,9 @@ public:
 
     /// Keeps an index for FindRow over two columns of a table; none if there is no such table.
     void AddIndex(unsigned typeId, int intColumn, int textColumn);
+    /// Raises if two rows of a table that is read have the same number, no negative one, and the
+    /// same key. One pass over the index of the two columns.
+    void RequireUnique(unsigned typeId, int intColumn, int keyColumn);
     /// Completes a file under construction. Nothing can be called afterwards.
     void Finish();
 

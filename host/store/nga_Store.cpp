@@ -47,6 +47,12 @@ std::string HexOf(unsigned typeId) {
     return text;
 }
 
+constexpr char const* currentOnly = "; this nga reads the current layouts only";
+
+std::string TextOf(CatalogueEntry const& entry) {
+    return "class " + entry.className + " (" + HexOf(entry.typeId) + ")";
+}
+
 // Runs work on a file, and puts the file's name to what goes wrong in it.
 template <class Work>
 auto OnFile(std::string const& path, Work&& work) -> decltype(work()) {
@@ -114,6 +120,12 @@ public:
         if (Schema() < oldestSchema)
             Fail(schema + ", which never was; this nga reads schemas " + range);
         for (CatalogueEntry const& entry : database->Catalogue()) CheckClass(entry, schema);
+        // Only after that, so that a class of an old version is told before one that is too new.
+        for (CatalogueEntry const& entry : database->Catalogue())
+            if (entry.version > Schema())
+                Fail(schema + ", and yet holds " + TextOf(entry) + " in version " +
+                     std::to_string(entry.version) +
+                     ": it is damaged, or another program changed it");
         return database;
     }
     // Whoever wrote into the file while it was read may have left us with half of it.
@@ -143,16 +155,15 @@ private:
         if (known && entry.version == known->version && entry.className == known->name &&
             entry.parentTypeId == known->parentTypeId)
             return;
-        std::string const upgrade = "; `nga upgrade " + m_path + "` brings it up to date";
-        std::string const what = "class " + entry.className + " (" + HexOf(entry.typeId) + ")";
+        std::string const what = TextOf(entry);
         if (!known) {
             if (Schema() < currentSchema)
-                Fail(schema + " and holds " + what + ", which is gone" + upgrade);
+                Fail(schema + " and holds " + what + ", which is gone" + currentOnly);
             Fail("it holds " + what + ", which this nga does not know");
         }
         if (entry.version < known->version)
             Fail(schema + " and holds " + what + " in version " + std::to_string(entry.version) +
-                 " of " + std::to_string(known->version) + upgrade);
+                 " of " + std::to_string(known->version) + currentOnly);
         Fail("the catalogue of classes does not fit " + what);
     }
 
@@ -187,6 +198,16 @@ private:
     FileStamp m_stamp;
     unsigned char m_header[headerSize] = {};
 };
+
+// What a class raises while it is read knows not where; what the frame and the store raise names
+// the table itself, wherever it knows more of it.
+[[noreturn]] void FailRead(StoredFile const& file, rom_Transporter const& transporter,
+                           nex_Exception const& exception) {
+    std::string const text = TextOf(exception);
+    std::string const place = transporter.FailedAt();
+    bool const placed = text.find("table ") != std::string::npos;
+    file.Fail(place.empty() || placed ? text : place + ": " + text);
+}
 
 std::string StemOf(std::string const& path) {
     std::string const name = path.substr(path.rfind('/') + 1);
@@ -235,18 +256,25 @@ std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp) 
         {
             std::unique_ptr<SqliteDatabase> const database = file.Open();
             database->Tables();
+            database->RequireUnique(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
+                                    rom_Layout::MapEntryKey);
             rom_Transporter transporter(*database, Registrar());
-            ddr_Model::RegisteredExtensions().Each([&](cow_String const& name,
-                                                       mdl_Extension const& prototype) {
-                rfm_Table* const table = database->FindTable(prototype.DynTypeId());
-                if (!table || table->RowCount() == 0) return;
-                if (table->RowCount() > 1)
-                    file.Fail("table " + std::string(table->Metadata().Name().View()) +
-                              " holds more than the one row of the model");
-                cow_ErasedHandle const read = transporter.Read(prototype.DynTypeId(), 0);
-                auto const* extension = static_cast<mdl_Extension const*>(read.ErasedReferent());
-                model->SetExtension(name, extension->Copy());
-            });
+            ddr_Model::RegisteredExtensions().Each(
+                [&](cow_String const& name, mdl_Extension const& prototype) {
+                    rfm_Table* const table = database->FindTable(prototype.DynTypeId());
+                    if (!table || table->RowCount() == 0) return;
+                    if (table->RowCount() > 1)
+                        file.Fail("table " + std::string(table->Metadata().Name().View()) +
+                                  " holds more than the one row of the model");
+                    try {
+                        cow_ErasedHandle const read = transporter.Read(prototype.DynTypeId(), 0);
+                        auto const* extension =
+                            static_cast<mdl_Extension const*>(read.ErasedReferent());
+                        model->SetExtension(name, extension->Copy());
+                    } catch (nex_Exception const& exception) {
+                        FailRead(file, transporter, exception);
+                    }
+                });
         }
         file.CheckUnchanged();
         if (stamp) *stamp = file.Stamp();
@@ -263,10 +291,14 @@ cow_ErasedHandle ReadNamed(std::string const& path, cow_String const& repository
         StoredFile const file(path);
         std::unique_ptr<SqliteDatabase> const database = file.Open();
         rom_Transporter transporter(*database, Registrar());
-        cow_ErasedHandle result = transporter.ReadMapElement(
-            prototype->DynTypeId(), 0, cow_String("extension"), name, elementTypeId);
-        file.CheckUnchanged();
-        return result;
+        try {
+            cow_ErasedHandle result = transporter.ReadMapElement(
+                prototype->DynTypeId(), 0, cow_String("extension"), name, elementTypeId);
+            file.CheckUnchanged();
+            return result;
+        } catch (nex_Exception const& exception) {
+            FailRead(file, transporter, exception);
+        }
     });
 }
 

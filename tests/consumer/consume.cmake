@@ -1,6 +1,6 @@
 # Installs a build into a prefix of its own, then configures, builds and runs a consumer of it.
 # BUILD (the build to install), CONFIG, WORK (a scratch folder), COMPILER, GENERATOR, MODULE (the
-# folder of the one header).
+# folder of the one header), TOOL (whether the tool is part of the build).
 cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE ${WORK})
 function(step)
@@ -13,6 +13,11 @@ function(step)
 endfunction()
 
 step(${CMAKE_COMMAND} --install ${BUILD} --config ${CONFIG} --prefix ${WORK}/prefix)
+
+# The tool runs from where it is installed.
+if(TOOL)
+  step(${WORK}/prefix/bin/nga --version)
+endif()
 
 # The one header names every header that installs, and no header installs that it does not name.
 file(GLOB_RECURSE installed ${WORK}/prefix/include/*.h)

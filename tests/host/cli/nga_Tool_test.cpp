@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
 #include "nga_JsonTree.h"
 #include "tool_runner.h"
@@ -8,10 +9,11 @@
 namespace {
 
 std::string const bracket = NGA_EXAMPLES "/bracket.json";
+std::string const everyOption = NGA_EXAMPLES "/every_option.json";
 std::string const zeroFactor = NGA_EXAMPLES "/zero_factor.json";
 
-std::vector<std::string> const verbs = {"new",   "import", "export",  "tree",      "show",
-                                        "check", "schema", "journal", "completion"};
+std::vector<std::string> const verbs = {"new",   "import", "export",  "tree",       "show",
+                                        "check", "schema", "journal", "completion", "help"};
 
 }  // namespace
 
@@ -36,7 +38,7 @@ TEST(Tool, EveryVerbHasHelpWithAnExample) {
 
 TEST(Tool, MisuseIsTwoWithAWordOnTheErrorStreamAlone) {
     std::vector<std::vector<std::string>> const misuses = {
-        {},
+        {"--quiet"},
         {"chek", bracket},
         {"check"},
         {"check", bracket, "--jsn"},
@@ -53,8 +55,91 @@ TEST(Tool, MisuseIsTwoWithAWordOnTheErrorStreamAlone) {
         EXPECT_EQ(run.err.rfind("nga: ", 0), 0u) << run.err;
         EXPECT_NE(run.err.find("--help"), std::string::npos) << run.err;
     }
+    EXPECT_EQ(RunNga({"--quiet"}).err, "nga: a verb is missing; see nga --help\n");
     EXPECT_EQ(RunNga({"chek", bracket}).err,
               "nga: there is no verb 'chek' (did you mean 'check'?); see nga --help\n");
+}
+
+TEST(Tool, WithoutArgumentsTheHelpGoesToTheErrorStream) {
+    ToolRun const run = RunNga({});
+    EXPECT_EQ(run.code, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, RunNga({"--help"}).out);
+}
+
+TEST(Tool, HelpIsAVerbToo) {
+    EXPECT_EQ(RunNga({"help"}).out, RunNga({"--help"}).out);
+    for (std::string const& verb : verbs) {
+        ToolRun const run = RunNga({"help", verb});
+        EXPECT_EQ(run.code, 0) << verb;
+        EXPECT_EQ(run.out, RunNga({verb, "--help"}).out);
+    }
+    ToolRun const unknown = RunNga({"help", "chek"});
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_EQ(unknown.err, "nga: there is no verb 'chek' (did you mean 'check'?)\n");
+}
+
+TEST(Tool, HelpSpeaksOfVerbsAndNamesWhatStandsThereOnce) {
+    for (std::string const& verb : verbs) {
+        std::string const help = RunNga({verb, "--help"}).out;
+        EXPECT_NE(help.find("--quiet"), std::string::npos) << verb;
+        EXPECT_EQ(help.back(), '\n') << verb;
+        for (char const* twice : {"TEXT TEXT", "FILE TEXT", "PATH TEXT", "VERB TEXT", "CLASS TEXT"})
+            EXPECT_EQ(help.find(twice), std::string::npos) << verb << twice;
+    }
+    std::string const help = RunNga({"--help"}).out;
+    EXPECT_NE(help.find("Usage: nga [OPTIONS] VERB\n"), std::string::npos) << help;
+    for (char const* word : {"SUBCOMMAND", "ubcommand"})
+        EXPECT_EQ(help.find(word), std::string::npos) << help;
+}
+
+TEST(Tool, FindingsComeBeforeTheirNumberWhereBothGoToOnePlace) {
+    TemporaryFolder const folder;
+    std::string const command =
+        NGA_TOOL " check " + zeroFactor + " > " + folder.Path("out") + " 2>&1";
+    EXPECT_NE(std::system(command.c_str()), 0);
+    std::string const text = FileContent(folder.Path("out"));
+    EXPECT_EQ(text.rfind("documents['zero_factor']", 0), 0u) << text;
+    EXPECT_NE(text.find("\n1 finding\n"), std::string::npos) << text;
+}
+
+TEST(Tool, TheStandardInputIsCalledSo) {
+    EXPECT_EQ(
+        RunNga({"check", "-"}, "{\n\"materialz\": {}}").err.rfind("nga: the standard input:2: ", 0),
+        0u);
+}
+
+TEST(Tool, ADatabaseIsNotMadeWhereATextWouldBeRead) {
+    TemporaryFolder const folder;
+    std::string const text = folder.Write("there.json", "{}");
+    for (std::string const& name : {folder.Path("x.json"), text, std::string("-")}) {
+        for (auto const& arguments : std::vector<std::vector<std::string>>{
+                 {"new", name}, {"import", bracket, "--into", name}}) {
+            ToolRun const run = RunNga(arguments);
+            EXPECT_EQ(run.code, 2) << name;
+            EXPECT_NE(run.err.find("a JSON text is read"), std::string::npos) << run.err;
+        }
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("x.json")));
+    EXPECT_EQ(FileContent(text), "{}");
+    EXPECT_FALSE(std::filesystem::exists("-"));
+}
+
+TEST(Tool, TreeShowsTheObjectThatWasAskedForOrRefuses) {
+    std::string const copper = "materials['copper']";
+    EXPECT_EQ(RunNga({"tree", bracket, copper + ".options['density']"})
+                  .out.rfind("documents['bracket'].materials['copper'].options['density']", 0),
+              0u);
+    EXPECT_EQ(RunNga({"tree", bracket, copper + ".options['density'].table"}).out,
+              "documents['bracket'].materials['copper'].options['density'].table  "
+              "kmaC_MaterialTable  table 1 x 1\n");
+    for (char const* below : {".options['density'].table[0][0]", ".options['elastic'].type",
+                              ".description", ".options['creep']"}) {
+        ToolRun const run = RunNga({"tree", bracket, copper + below});
+        EXPECT_EQ(run.code, 2) << below << run.out;
+        EXPECT_EQ(run.out, "") << below;
+        EXPECT_EQ(run.err.find('\n'), run.err.size() - 1) << run.err;
+    }
 }
 
 TEST(Tool, TheExampleIsValidAndHasEightMaterialsAndThreeLoadCases) {
@@ -71,11 +156,33 @@ TEST(Tool, TheExampleIsValidAndHasEightMaterialsAndThreeLoadCases) {
         EXPECT_NE(material.Find("summary")->text, "") << "without a source";
 }
 
-TEST(Tool, TheExampleIsWrittenAsExportWritesIt) {
-    ToolRun const run = RunNga({"export", bracket});
-    EXPECT_EQ(run.code, 0);
-    EXPECT_EQ(run.out, FileContent(bracket));
-    EXPECT_EQ(RunNga({"export", "-"}, run.out).out, run.out);
+TEST(Tool, TheExamplesAreWrittenAsExportWritesThem) {
+    for (std::string const& example : {bracket, everyOption}) {
+        ToolRun const run = RunNga({"export", example});
+        EXPECT_EQ(run.code, 0);
+        EXPECT_EQ(run.out, FileContent(example));
+        EXPECT_EQ(RunNga({"export", "-"}, run.out).out, run.out);
+    }
+}
+
+TEST(Tool, TheExampleOfEveryFamilyIsValidNamesItsSourcesAndSurvivesADatabase) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("every_option.nga");
+    ASSERT_EQ(RunNga({"import", everyOption, "--into", file}).code, 0);
+    EXPECT_EQ(RunNga({"check", file}).code, 0);
+    std::string const text = RunNga({"export", file}).out;
+    EXPECT_EQ(text, FileContent(everyOption));
+    nga::JsonNode const document = nga::ParseJson(text);
+    std::set<std::string> options;
+    for (nga::JsonMember const& material : document.Find("materials")->members) {
+        ASSERT_NE(material.value.Find("description"), nullptr) << material.key;
+        for (nga::JsonMember const& option : material.value.members) options.insert(option.key);
+    }
+    for (char const* option :
+         {"hyperelastic", "viscoelastic", "concreteDamagedPlasticity", "druckerPrager",
+          "mohrCoulombPlasticity", "hyperfoam", "crushableFoam", "castIronPlasticity",
+          "gasketThicknessBehavior", "acousticMedium", "eos", "diffusivity", "userMaterial"})
+        EXPECT_EQ(options.count(option), 1u) << option;
 }
 
 TEST(Tool, AZeroFactorIsAFindingWithItsPathAndMessage) {
@@ -140,11 +247,11 @@ TEST(Tool, AFailingTextNamesItsFileLineAndPlace) {
 TEST(Tool, WhatCannotBeReadIsOneClearFailure) {
     TemporaryFolder const folder;
     EXPECT_EQ(RunNga({"check", folder.Path("no.json")}).err,
-              "nga: " + folder.Path("no.json") + ": cannot open: No such file or directory\n");
+              "nga: " + folder.Path("no.json") + ": there is no such file\n");
     std::filesystem::create_directory(folder.Path("dir.json"));
     ToolRun const directory = RunNga({"check", folder.Path("dir.json")});
     EXPECT_EQ(directory.code, 2);
-    EXPECT_EQ(directory.err, "nga: " + folder.Path("dir.json") + ": cannot read: Is a directory\n");
+    EXPECT_EQ(directory.err, "nga: " + folder.Path("dir.json") + ": this is a folder\n");
 }
 
 TEST(Tool, AFullDiskIsAFailureEvenForTheStandardOutput) {
@@ -232,6 +339,33 @@ TEST(Tool, ANameThatIsThereAlreadyFollowsTheStatedRule) {
     EXPECT_EQ(RunNga({"show", file, path}).out, "\"old\"\n");
     EXPECT_EQ(RunNga({"import", second, "--into", file, "--on-conflict", "replace"}).code, 0);
     EXPECT_EQ(RunNga({"show", file, path}).out, "\"new\"\n");
+}
+
+TEST(Tool, AnImportKeepsTheOtherObjectsOfTheDocument) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("bracket.nga");
+    ASSERT_EQ(RunNga({"import", bracket, "--into", file}).code, 0);
+    std::string const more = folder.Write(
+        "more.json",
+        "{\"materials\": {\"zinc\": {\"description\": \"new\"}}, \"loadCases\": {\"z\": {}}}");
+    ASSERT_EQ(RunNga({"import", more, "--into", file}).code, 0);
+    nga::JsonNode const before = nga::ParseJson(FileContent(bracket));
+    nga::JsonNode const after = nga::ParseJson(RunNga({"export", file}).out);
+    for (std::string const kind : {"materials", "loadCases"}) {
+        ASSERT_EQ(after.Find(kind)->members.size(), before.Find(kind)->members.size() + 1);
+        for (nga::JsonMember const& member : before.Find(kind)->members) {
+            std::string const path = kind + "['" + member.key + "']";
+            EXPECT_EQ(RunNga({"show", file, path}).out, RunNga({"show", bracket, path}).out);
+        }
+    }
+    EXPECT_EQ(RunNga({"show", file, "materials['zinc'].description"}).out, "\"new\"\n");
+    ASSERT_EQ(RunNga({"import", bracket, "--into", file, "--on-conflict", "keep"}).code, 0);
+    ASSERT_EQ(RunNga({"import", bracket, "--into", file, "--on-conflict", "replace"}).code, 0);
+    EXPECT_EQ(RunNga({"check", file}).code, 0);
+    std::string const text = RunNga({"export", file}).out;
+    std::string const again = folder.Path("again.nga");
+    ASSERT_EQ(RunNga({"import", "-", "--into", again}, text).code, 0);
+    EXPECT_EQ(RunNga({"export", again}).out, text);
 }
 
 TEST(Tool, NewRefusesAPresentFileAndFilesOfOthersAreRefused) {

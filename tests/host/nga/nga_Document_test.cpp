@@ -2,10 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <sqlite3.h>
+
 #include <filesystem>
+#include <fstream>
 
 #include "../cli/tool_runner.h"
 #include "cls_MetadataRegistrar.h"
+#include "mem_Memory.h"
 #include "nga_Collection.h"
 #include "nga_Error.h"
 #include "nga_HostExtension.h"
@@ -15,6 +19,28 @@
 #include "typ_ArchCompTable.h"
 
 using nga::Document;
+
+namespace {
+
+/// Runs SQL on a file past the store; the last number that it gives.
+int ChangeBySql(std::string const& file, std::string const& sql) {
+    sqlite3* database = nullptr;
+    int number = -1;
+    EXPECT_EQ(sqlite3_open(file.c_str(), &database), SQLITE_OK);
+    auto const take = [](void* result, int, char** values, char**) {
+        *static_cast<int*>(result) = values[0] ? std::stoi(values[0]) : -1;
+        return 0;
+    };
+    EXPECT_EQ(sqlite3_exec(database, sql.c_str(), take, &number, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(database);
+    sqlite3_close(database);
+    return number;
+}
+int RowsOf(std::string const& file, std::string const& table) {
+    return ChangeBySql(file, "SELECT count(*) FROM " + table);
+}
+
+}  // namespace
 
 TEST(Document, ANewOneIsEmptyAndHasNoFile) {
     Document const document = Document::New("frame");
@@ -78,7 +104,7 @@ TEST(Document, LookingAtADocumentPutsNothingIntoItsFile) {
     EXPECT_LE(std::filesystem::file_size(folder.Path("empty.nga")), 32u * 1024);
 }
 
-TEST(Document, SavingRefusesAFileThatChangedMeanwhile) {
+TEST(Document, SaveRefusesAFileThatChangedSinceItWasOpened) {
     TemporaryFolder const folder;
     std::string const file = folder.Path("shared.nga");
     Document::New("shared").SaveAs(file);
@@ -88,8 +114,101 @@ TEST(Document, SavingRefusesAFileThatChangedMeanwhile) {
     theirs.Save();
     theirs.Materials().Insert("copper", new kmaC_Material);
     EXPECT_NO_THROW(theirs.Save());
+    std::string const bytes = FileContent(file);
     EXPECT_THROW(mine.Save(), nga::StoreError);
+    // Still so at a second try, and once the file is gone.
+    EXPECT_THROW(mine.Save(), nga::StoreError);
+    EXPECT_EQ(FileContent(file), bytes);
+    std::filesystem::remove(file);
+    EXPECT_THROW(mine.Save(), nga::StoreError);
+    EXPECT_FALSE(std::filesystem::exists(file));
+    theirs.SaveAsNew(file);
     EXPECT_TRUE(Document::Open(file).Materials().IsMember("copper"));
+}
+
+TEST(Document, ASecondSaveAfterTheFirstIsNotRefused) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("mine.nga");
+    Document::New("mine").SaveAs(file);
+    Document opened = Document::Open(file);
+    for (char const* name : {"a", "b", "c"}) {
+        opened.Materials().Insert(name, new kmaC_Material);
+        EXPECT_NO_THROW(opened.Save()) << name;
+    }
+    opened.SaveAs(folder.Path("other.nga"));
+    opened.Materials().Insert("d", new kmaC_Material);
+    EXPECT_NO_THROW(opened.Save());
+    EXPECT_EQ(Document::Open(folder.Path("other.nga")).Materials().Size(), 4);
+    EXPECT_EQ(Document::Open(file).Materials().Size(), 3);
+}
+
+namespace {
+
+std::string newcomer;
+// Called at the library's allocations, of which a save makes some: so that something happens in the
+// midst of it.
+bool MakeNewcomer(std::size_t) {
+    if (!newcomer.empty()) std::ofstream(newcomer) << "theirs";
+    newcomer.clear();
+    return false;
+}
+
+}  // namespace
+
+TEST(Document, SaveAsDoesNotReplaceAFileThatAppearedMeanwhile) {
+    TemporaryFolder const folder;
+    Document document = Document::New("document");
+    document.Materials().Insert("steel", new kmaC_Material);
+    std::string const file = folder.Path("taken.nga");
+    newcomer = file;
+    mem_SetFailureHook(MakeNewcomer);
+    EXPECT_THROW(document.SaveAs(file), nga::StoreError);
+    mem_SetFailureHook(nullptr);
+    EXPECT_TRUE(newcomer.empty());
+    EXPECT_EQ(FileContent(file), "theirs");
+    EXPECT_EQ(document.Name(), "document");
+    EXPECT_EQ(document.File(), "");
+    // What stands there at the call is meant to be replaced.
+    document.SaveAs(file);
+    EXPECT_TRUE(Document::Open(file).Materials().IsMember("steel"));
+}
+
+TEST(Document, ImportingNothingKeepsAFileAsSmallAsANewOne) {
+    TemporaryFolder const folder;
+    Document document = Document::New("nothing");
+    nga::ImportJson(document, "{}");
+    document.Materials();
+    document.LoadCases();
+    document.SaveAs(folder.Path("nothing.nga"));
+    EXPECT_LE(std::filesystem::file_size(folder.Path("nothing.nga")), 32u * 1024);
+}
+
+TEST(Document, ANameWithoutAnObjectIsNeitherSavedNorRead) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("holes.nga");
+    Document document = Document::New("holes");
+    document.Materials().Insert("steel", new kmaC_Material);
+    document.LoadCases().Insert("wind", new klcC_LoadCase);
+    document.SaveAs(file);
+    std::string const bytes = FileContent(file);
+    document.Materials().Insert("hole", static_cast<kmaC_Material*>(nullptr));
+    EXPECT_THROW(document.Save(), nga::Error);
+    EXPECT_EQ(FileContent(file), bytes);
+
+    for (std::string const key : {"steel", "wind"}) {
+        std::string const damaged = folder.Write("damaged.nga", bytes);
+        ChangeBySql(damaged,
+                    "UPDATE cls_MapEntry SET \"value#ClassID\"=NULL, "
+                    "\"value#OID\"=NULL WHERE key='" +
+                        key + "'");
+        try {
+            Document::Open(damaged);
+            ADD_FAILURE() << key;
+        } catch (nga::StoreError const& failure) {
+            EXPECT_EQ(failure.Cause(), (key == "steel" ? "materials" : "loadCases") +
+                                           ("['" + key + "'] is a name without an object"));
+        }
+    }
 }
 
 TEST(Document, SavingAsNewRefusesAPresentFile) {
@@ -124,6 +243,81 @@ TEST(Document, SharedOptionsComeBackShared) {
     EXPECT_EQ(again.Materials().ConstGet("a").density.GetPtr(),
               again.Materials().ConstGet("b").density.GetPtr());
     EXPECT_NE(&again.Materials().ConstGet("a"), &again.Materials().ConstGet("b"));
+}
+
+namespace {
+
+/// Each way in which a second name can come by a copy of load case "a".
+struct LoadCaseWay {
+    char const* name;
+    void (*copy)(klcC_LoadCaseCont& cases);
+};
+LoadCaseWay const loadCaseWays[] = {
+    {"InsertByValue", [](klcC_LoadCaseCont& c) { c.Insert("b", c.ConstGet("a")); }},
+    {"InsertOfTheOneThatIsWritten", [](klcC_LoadCaseCont& c) { c.Insert("b", c.Get("a")); }},
+    {"InsertOfACopy",
+     [](klcC_LoadCaseCont& c) { c.Insert("b", new klcC_LoadCase(c.ConstGet("a"))); }},
+    {"Assignment",
+     [](klcC_LoadCaseCont& c) {
+         c.Insert("b", new klcC_LoadCase);
+         c.Get("b") = c.ConstGet("a");
+     }},
+    {"CopyOfTheTree",
+     [](klcC_LoadCaseCont& c) {
+         klcC_LoadCaseCont const kept = c;
+         c.Insert("b", kept.ConstGet("a"));
+     }},
+    {"AssignmentOfTheTree",
+     [](klcC_LoadCaseCont& c) {
+         klcC_LoadCaseCont other;
+         other = c;
+         other.Insert("b", other.ConstGet("a"));
+         c = other;
+     }},
+};
+
+}  // namespace
+
+TEST(Document, LoadCasesThatWereCopiedAndChangedApartComeBackApart) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("cases.nga");
+    for (LoadCaseWay const& way : loadCaseWays) {
+        Document document = Document::New("cases");
+        nga::ImportJson(document, "{\"loadCases\": {\"a\": {\"loads\": {\"x\": 1.5}}}}");
+        way.copy(document.LoadCases());
+        nga::ImportJson(document, "{}");
+        document.LoadCases().Get("b").loads.Insert("y", 2.5f);
+        std::string const before = nga::ExportJson(document);
+        EXPECT_EQ(document.LoadCases().ConstGet("a").loads.Size(), 1) << way.name;
+        document.SaveAs(file);
+        Document const again = Document::Open(file);
+        EXPECT_EQ(nga::ExportJson(again), before) << way.name;
+        EXPECT_EQ(again.LoadCases().ConstGet("a").loads.Size(), 1) << way.name;
+        EXPECT_EQ(again.LoadCases().ConstGet("b").loads.Size(), 2) << way.name;
+    }
+}
+
+TEST(Document, WhatIsSharedIsOneRecordOfItsFile) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("shared.nga");
+    Document document = Document::New("shared");
+    nga::ImportJson(document, "{\"materials\": {\"a\": {\"elastic\": {\"table\": [[1, 2]]}}}}");
+    for (char const* name : {"b", "c", "d"})
+        document.Materials().Insert(name, document.Materials().ConstGet("a"));
+    document.SaveAs(file);
+    EXPECT_EQ(RowsOf(file, "kmaC_Elastic"), 1);
+    EXPECT_EQ(RowsOf(file, "kmaC_Material"), 4);
+    document.Materials().Get("c").elastic.Get().table.MutableCell(0, 0) = 5;
+    document.Save();
+    EXPECT_EQ(RowsOf(file, "kmaC_Elastic"), 2);
+    Document again = Document::Open(file);
+    EXPECT_EQ(again.Materials().ConstGet("a").elastic.ConstGet().table.Cell(0, 0), 1);
+    EXPECT_EQ(again.Materials().ConstGet("c").elastic.ConstGet().table.Cell(0, 0), 5);
+    // Shared as they came back, they are still copies of their own to whoever writes.
+    again.Materials().Get("d").elastic.Get().table.MutableCell(0, 1) = 7;
+    EXPECT_EQ(again.Materials().ConstGet("a").elastic.ConstGet().table.Cell(0, 1), 2);
+    again.Save();
+    EXPECT_EQ(nga::ExportJson(Document::Open(file)), nga::ExportJson(again));
 }
 
 TEST(Document, TheStemOfAPathIsItsLastPartWithoutTheEnding) {
