@@ -132,10 +132,10 @@ constexpr FaultRow faultRows[] = {
     {"unexpected end of input",  "the text ends too soon",               ""},
     {"object key",               "this is no key",                       "a key in double quotes"},
     {"object separator",         "the key has no ':' behind it",         "a ':'"},
-    {"expected end of input",    "something stands behind the end",      "one value alone"},
+    {"; expected end of input",  "something stands behind the end",      "one value alone"},
     {"invalid literal",          "this is no value",                     "a number, a \"text\", true, false, null, an object or an array"},
-    {"expected '}'",             "the object does not go on like this",  "a ',' or a '}'"},
-    {"expected ']'",             "the array does not go on like this",   "a ',' or a ']'"},
+    {"; expected '}'",           "the object does not go on like this",  "a ',' or a '}'"},
+    {"; expected ']'",           "the array does not go on like this",   "a ',' or a ']'"},
     {"parsing value",            "a value is missing",                   "a number, a \"text\", true, false, null, an object or an array"},
 };
 // clang-format on

@@ -254,7 +254,8 @@ TEST(Json, AsDeepAsATextMayNestIsExportedAndNoDeeper) {
         auto* mullins = new kmaC_MullinsEffect;
         for (int i = 0; i < levels; ++i) {
             auto* outer = new kmaC_MullinsEffect;
-            outer->planarTests.Append(kmaC_MaterialOptionHandle(mullins));
+            mdl_Field const& list = *outer->Description().FindField("planarTests");
+            list.Type().Adopt(list.At(static_cast<void*>(outer)), mullins);
             mullins = outer;
         }
         auto* rubber = new kmaC_Material;

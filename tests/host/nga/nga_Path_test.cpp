@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "DDB_NonGeometricAttributes.h"
 #include "nex_Exception.h"
 #include "nga_Error.h"
 #include "nga_Json.h"
@@ -20,7 +21,8 @@ protected:
         nga::ImportJson(document,
                         "{\"materials\": {\"steel\": {\"description\": \"EN\", \"elastic\": "
                         "{\"type\": \"LAMINA\", \"table\": [[1, 2], [3, 4]], \"failStress\": {}}}, "
-                        "\"a].b[\": {}}, \"loadCases\": {\"wind\": {\"loads\": {\"it's\": 1.5}}}}");
+                        "\"a].b[\": {}}, \"loadCases\": {\"wind\": {\"loads\": {\"gust\": 1.5}}}}");
+        document.LoadCases().Get("wind").loads.Insert("it's", 1.5f);
     }
     std::string FailureOf(std::string const& path) {
         try {
