@@ -316,7 +316,7 @@ private:
         std::vector<Finding> findings, notes;
         for (Finding const& one : all) (one.note ? notes : findings).push_back(one);
         if (m_arguments.json) {
-            m_console.Result(FindingsJson(document, findings, notes));
+            m_console.Result(FindingsJson(document, findings, m_arguments.deep ? &notes : nullptr));
         } else {
             for (Finding const& finding : findings) ResultLine(finding);
             for (Finding const& note : notes) ResultLine(note);
@@ -337,13 +337,13 @@ private:
                          Printable(finding.message) + "\n");
     }
     static std::string FindingsJson(Document const& document, std::vector<Finding> const& findings,
-                                    std::vector<Finding> const& notes) {
+                                    std::vector<Finding> const* notes) {
         JsonWriter writer;
         writer.BeginObject();
         writer.Key("path");
         writer.String(DocumentPath(document));
         AddFindings(writer, "findings", findings);
-        if (!notes.empty()) AddFindings(writer, "notes", notes);
+        if (notes) AddFindings(writer, "notes", *notes);
         writer.EndObject();
         return writer.Take();
     }

@@ -38,6 +38,10 @@ TEST(ToolTexts, ADeepCheckWithAFindingIsOne) {
     std::string const file = folder.Write(
         "soil.json", "{\"materials\": {\"soil\": {\"elastic\": {\"dependencies\": -1}}}}");
     EXPECT_EQ(RunNga({"check", file, "--deep"}).code, 1);
+    nga::JsonNode const root = nga::ParseJson(RunNga({"check", file, "--deep", "--json"}).out);
+    EXPECT_EQ(root.Find("findings")->elements.size(), 1u);
+    EXPECT_TRUE(root.Find("notes")->elements.empty());
+    EXPECT_EQ(nga::ParseJson(RunNga({"check", file, "--json"}).out).Find("notes"), nullptr);
     EXPECT_EQ(RunNga({"check", file}).code, 1);
 }
 
