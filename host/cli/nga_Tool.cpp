@@ -35,6 +35,7 @@ struct Arguments {
     std::string verb;
     bool json = false;
     bool paths = false;
+    bool deep = false;
 };
 
 bool EndsWith(std::string const& text, std::string_view ending) {
@@ -65,7 +66,7 @@ std::string NameFor(std::string const& file) {
 /// checked without a database.
 Document OpenAny(std::string const& file) {
     if (file != "-" && !EndsWith(file, ".json")) return Document::Open(file);
-    Document document = Document::New(NameFor(file));
+    Document document = InFile(file, [&] { return Document::New(NameFor(file)); });
     std::string const text = ReadText(file);
     InFile(file, [&] { ImportJson(document, text); });
     return document;
@@ -143,6 +144,8 @@ public:
         verb = Verb("check", "List every object that breaks a rule; exit code 1 if there is one",
                     "nga check bracket.nga --json", &Tool::Check);
         File(verb);
+        verb->add_flag("--deep", a.deep,
+                       "Also note what would fail if its owner asked it; notes alone are fine");
         Json(verb);
 
         verb = Verb("schema", "Show one class or all, as they are registered", "nga schema Elastic",
@@ -266,6 +269,16 @@ private:
         return exitFine;
     }
 
+    /// Names that no path shows well come only from files: they are told, and can be used.
+    Document Opened(std::string const& file) {
+        Document document = OpenAny(file);
+        for (std::string const& path : UnusableNames(document))
+            m_console.Say("warning: " + Printable(file) + ": " + path +
+                          ": the name has a quote, a backslash or a control character, or is "
+                          "empty; no import could bring it back");
+        return document;
+    }
+
     int New() {
         RefuseTextName(m_arguments.file);
         RefuseExisting(m_arguments.file, "the name of a new file");
@@ -278,7 +291,7 @@ private:
     Document Target(std::string const& file) {
         std::error_code ignored;
         if (std::filesystem::exists(file, ignored)) return Document::Open(file);
-        return Document::New(Document::StemOf(file));
+        return InFile(file, [&] { return Document::New(Document::StemOf(file)); });
     }
 
     int Import() {
@@ -333,7 +346,7 @@ private:
     }
 
     int Export() {
-        Document const document = OpenAny(m_arguments.file);
+        Document const document = Opened(m_arguments.file);
         std::string const text = ExportJson(document);
         if (m_arguments.output.empty() || m_arguments.output == "-")
             m_console.Result(text);
@@ -343,7 +356,7 @@ private:
     }
 
     int Tree() {
-        Document const document = OpenAny(m_arguments.file);
+        Document const document = Opened(m_arguments.file);
         Selection const from = Resolve(document, m_arguments.path);
         if (from.what != Selection::What::Document && from.what != Selection::What::Collection &&
             from.what != Selection::What::Object)
@@ -355,7 +368,7 @@ private:
     }
 
     int Show() {
-        Document const document = OpenAny(m_arguments.file);
+        Document const document = Opened(m_arguments.file);
         Selection const selection = Resolve(document, m_arguments.path);
         m_console.Result(m_arguments.json ? ShowJson(document, selection)
                                           : ShowText(document, selection));
@@ -363,31 +376,46 @@ private:
     }
 
     int Check() {
-        Document const document = OpenAny(m_arguments.file);
-        std::vector<Finding> const findings = nga::Check(document);
+        Document const document = Opened(m_arguments.file);
+        std::vector<Finding> const all =
+            nga::Check(document, m_arguments.deep ? CheckDepth::All : CheckDepth::Asked);
+        std::vector<Finding> findings, notes;
+        for (Finding const& one : all) (one.note ? notes : findings).push_back(one);
         if (m_arguments.json) {
-            m_console.Result(FindingsJson(document, findings));
+            m_console.Result(FindingsJson(document, findings, m_arguments.deep ? &notes : nullptr));
         } else {
-            for (Finding const& finding : findings) {
-                std::string const code =
-                    finding.code < 0 ? std::string()
-                                     : finding.module + " " + std::to_string(finding.code) + ": ";
-                m_console.Result(m_console.Strong(finding.path) + ": " + m_console.Alarming(code) +
-                                 Printable(finding.message) + "\n");
-            }
-            m_console.Say(findings.empty() ? "no findings"
-                                           : std::to_string(findings.size()) +
-                                                 (findings.size() == 1 ? " finding" : " findings"));
+            for (Finding const& finding : findings) ResultLine(finding);
+            for (Finding const& note : notes) ResultLine(note);
+            m_console.Say((findings.empty() ? "no findings" : Counted(findings.size(), "finding")) +
+                          (notes.empty() ? "" : ", " + Counted(notes.size(), "note")));
         }
         return findings.empty() ? exitFine : exitFindings;
     }
-    static std::string FindingsJson(Document const& document,
-                                    std::vector<Finding> const& findings) {
+    static std::string Counted(std::size_t count, char const* what) {
+        return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+    }
+    void ResultLine(Finding const& finding) {
+        std::string const code = finding.code < 0
+                                     ? std::string()
+                                     : finding.module + " " + std::to_string(finding.code) + ": ";
+        m_console.Result(std::string(finding.note ? "note: " : "") +
+                         m_console.Strong(finding.path) + ": " + m_console.Alarming(code) +
+                         Printable(finding.message) + "\n");
+    }
+    static std::string FindingsJson(Document const& document, std::vector<Finding> const& findings,
+                                    std::vector<Finding> const* notes) {
         JsonWriter writer;
         writer.BeginObject();
         writer.Key("path");
         writer.String(DocumentPath(document));
-        writer.Key("findings");
+        AddFindings(writer, "findings", findings);
+        if (notes) AddFindings(writer, "notes", *notes);
+        writer.EndObject();
+        return writer.Take();
+    }
+    static void AddFindings(JsonWriter& writer, char const* key,
+                            std::vector<Finding> const& findings) {
+        writer.Key(key);
         writer.BeginArray();
         for (Finding const& finding : findings) {
             writer.BeginObject();
@@ -405,8 +433,6 @@ private:
             writer.EndObject();
         }
         writer.EndArray();
-        writer.EndObject();
-        return writer.Take();
     }
 
     int Schema() {
@@ -418,8 +444,10 @@ private:
 
     int Journal() {
         std::string const text = ReadText(m_arguments.file);
-        Document document = m_arguments.into.empty() ? Document::New(NameFor(m_arguments.file))
-                                                     : OpenAny(m_arguments.into);
+        Document document =
+            m_arguments.into.empty()
+                ? InFile(m_arguments.file, [&] { return Document::New(NameFor(m_arguments.file)); })
+                : Opened(m_arguments.into);
         nga::Journal journal;
         InFile(m_arguments.file,
                [&] { ImportJson(document, text, ConflictRule(m_arguments.onConflict)); });

@@ -1,6 +1,10 @@
 #include "nga_Check.h"
 
+#include <set>
+
+#include "cls_xp.h"
 #include "nex_Exception.h"
+#include "nga_Names.h"
 #include "nga_Path.h"
 
 namespace nga {
@@ -12,13 +16,19 @@ namespace {
 class Recorder final : public mdl_RuleVisitor {
 public:
     /// What a collection holds under a name.
-    Recorder(std::vector<Finding>& findings, mdl_Description const& description, void const* object,
-             std::string const& path)
-        : m_findings(findings), m_description(description), m_object(object), m_path(path) {}
+    Recorder(std::vector<Finding>& findings, CheckDepth depth, mdl_Description const& description,
+             void const* object, std::string const& path)
+        : m_findings(findings),
+          m_depth(depth),
+          m_description(description),
+          m_object(object),
+          m_path(path) {}
     /// What a member of the owner holds.
-    Recorder(Recorder const& owner, mdl_Description const& description, void const* object,
-             void const* member, int index)
+    Recorder(Recorder const& owner, bool note, mdl_Description const& description,
+             void const* object, void const* member, int index)
         : m_findings(owner.m_findings),
+          m_depth(owner.m_depth),
+          m_note(note),
           m_description(description),
           m_object(object),
           m_owner(&owner),
@@ -31,6 +41,7 @@ public:
         } catch (nex_Exception const& failure) {
             Add(failure);
         }
+        if (m_depth == CheckDepth::All) RunUnasked();
     }
 
 protected:
@@ -39,12 +50,14 @@ protected:
         m_failed = true;
         mdl_Module const& module = *m_description.Module();
         m_findings.push_back(
-            {Path(), module.prefix, code, std::string(module.errorText(code).View())});
+            {Path(), module.prefix, code, std::string(module.errorText(code).View()), m_note});
     }
 
     void Object(void const* member, int index, void const* object, mdl_Asked how) override {
         mdl_Description const* description = mdl_Description::Find(how.dynTypeId(object));
-        Recorder inner(*this, description ? *description : m_description, object, member, index);
+        if (m_depth == CheckDepth::All) m_asked.emplace(member, index);
+        Recorder inner(*this, m_note, description ? *description : m_description, object, member,
+                       index);
         if (description && description->HasRules()) {
             inner.Run();
             return;
@@ -61,7 +74,23 @@ private:
     void Add(nex_Exception const& failure) {
         if (m_failed) return;
         m_failed = true;
-        m_findings.push_back({Path(), std::string(), -1, std::string(failure.UserReport().View())});
+        m_findings.push_back(
+            {Path(), std::string(), -1, std::string(failure.UserReport().View()), m_note});
+    }
+    /// Asks the objects in all fields that the rules passed over.
+    void RunUnasked() {
+        for (mdl_Field const* field : m_description.AllFields()) {
+            mdl_FieldType const& type = field->Type();
+            if (!type.Held()) continue;
+            void const* const at = field->At(m_object);
+            for (int i = 0; i < type.Count(at); ++i) {
+                void const* const object = type.ConstObject(at, i);
+                mdl_Description const* description =
+                    object ? mdl_Description::Find(type.DynTypeIdOf(object)) : nullptr;
+                if (!description || m_asked.count({at, i}) != 0) continue;
+                Recorder(*this, true, *description, object, at, i).Run();
+            }
+        }
     }
     std::string StepTo(void const* member, int index) const {
         for (mdl_Description const* level = &m_description; level; level = level->Base())
@@ -79,6 +108,8 @@ private:
     }
 
     std::vector<Finding>& m_findings;
+    CheckDepth m_depth;
+    bool m_note = false;
     mdl_Description const& m_description;
     void const* m_object;
     std::string m_path;
@@ -86,11 +117,61 @@ private:
     void const* m_member = nullptr;
     int m_index = 0;
     bool m_failed = false;
+    /// The members that the rules asked, with the place in a list.
+    std::set<std::pair<void const*, int>> m_asked;
 };
+
+void AddUnusable(std::vector<std::string>& paths, mdl_Description const& description,
+                 void const* object, std::string const& path) {
+    for (mdl_Field const* field : description.AllFields()) {
+        mdl_FieldType const& type = field->Type();
+        void const* const at = field->At(object);
+        if (type.Kind() == mdl_FieldKind::FloatMap) {
+            cow_ConstMapIterator<cow_String, float> position(
+                *static_cast<cls_xpMapString2Float const*>(at));
+            for (position.First(); !position.IsDone(); position.Next())
+                if (!IsUsableName(position.CurrentKey().View()))
+                    paths.push_back(path + FieldStep(description, *field) +
+                                    KeyStep(position.CurrentKey().View()));
+        }
+        if (!type.Held()) continue;
+        bool const list =
+            type.Kind() == mdl_FieldKind::OptionList || type.Kind() == mdl_FieldKind::ObjectList;
+        for (int i = 0; i < type.Count(at); ++i) {
+            void const* const held = type.ConstObject(at, i);
+            mdl_Description const* inner =
+                held ? mdl_Description::Find(type.DynTypeIdOf(held)) : nullptr;
+            if (inner)
+                AddUnusable(paths, *inner, held,
+                            path + FieldStep(description, *field) + (list ? IndexStep(i) : ""));
+        }
+    }
+}
 
 }  // namespace
 
-std::vector<Finding> Check(Document const& document) {
+std::vector<std::string> UnusableNames(Document const& document) {
+    std::vector<std::string> paths;
+    std::string const root = DocumentPath(document);
+    for (Collection const* collection : Collection::All())
+        collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
+            std::string const path = EntryPath(root, *collection, key.View());
+            if (!IsUsableName(key.View())) paths.push_back(path);
+            mdl_Description const* description =
+                object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
+            if (description) AddUnusable(paths, *description, object, path);
+        });
+    return paths;
+}
+
+std::vector<Finding> Check(mdl_Description const& description, void const* object,
+                           std::string const& path, CheckDepth depth) {
+    std::vector<Finding> findings;
+    Recorder(findings, depth, description, object, path).Run();
+    return findings;
+}
+
+std::vector<Finding> Check(Document const& document, CheckDepth depth) {
     std::vector<Finding> findings;
     std::string const root = DocumentPath(document);
     for (Collection const* collection : Collection::All())
@@ -98,7 +179,8 @@ std::vector<Finding> Check(Document const& document) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
             if (!description) return;
-            Recorder(findings, *description, object, EntryPath(root, *collection, key.View()))
+            Recorder(findings, depth, *description, object,
+                     EntryPath(root, *collection, key.View()))
                 .Run();
         });
     return findings;

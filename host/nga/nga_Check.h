@@ -13,10 +13,26 @@ struct Finding {
     std::string module;  ///< prefix of the module whose code it is; empty for a failure without one
     int code = -1;
     std::string message;
+    /// Whether no owner asks the object, so that nothing is invalid because of it.
+    bool note = false;
+};
+
+/// How far a check goes.
+enum class CheckDepth {
+    Asked,  ///< what the classes ask
+    All     ///< also what they hold without asking it; failures there are notes
 };
 
 /// Asks every named object of the document, as AssertValid() would, but goes on behind a failure:
-/// lists each object's first own failed rule. What a class does not ask is not followed.
-std::vector<Finding> Check(Document const& document);
+/// lists each object's first own failed rule. What a class does not ask is not followed, unless
+/// that is wanted.
+std::vector<Finding> Check(Document const& document, CheckDepth depth = CheckDepth::Asked);
+/// The same for one object of a described class, known by that path.
+std::vector<Finding> Check(mdl_Description const& description, void const* object,
+                           std::string const& path, CheckDepth depth = CheckDepth::Asked);
+
+/// The paths of what a document holds under a name that no import lets pass, by name of an object
+/// or of a map's entry: only a file or a program can have brought it in.
+std::vector<std::string> UnusableNames(Document const& document);
 
 }  // namespace nga

@@ -3,6 +3,7 @@
 #include "nga_Collection.h"
 #include "nga_Error.h"
 #include "nga_Names.h"
+#include "nga_Path.h"
 #include "nga_TextForm.h"
 
 namespace nga {
@@ -10,6 +11,8 @@ namespace nga {
 namespace {
 
 constexpr int textForm = 1;
+/// How database files begin: people mix the two up.
+constexpr std::string_view databaseMark = "SQLite format 3";
 
 /// One object that was read and waits for its place in the document.
 struct Staged {
@@ -20,15 +23,16 @@ struct Staged {
     int line;
 };
 
-void ReadHead(JsonMember const& member, JsonPlace const& place, int highest, char const* what) {
+/// A text of another form or schema would be read wrongly here and there, so it is not read at all.
+void ReadHead(JsonMember const& member, JsonPlace const& place, int current, char const* what) {
     JsonNode const& node = member.value;
     if (node.kind != JsonNode::Kind::Integer)
         throw Error(std::string(node.KindText()) + " cannot stand here", place.Text(), node.line,
                     "a number");
-    if (node.integer < 1 || node.integer > highest)
-        throw Error(std::string(what) + " " + std::to_string(node.integer) +
-                        " is not known to this version",
-                    place.Text(), node.line, "at most " + std::to_string(highest));
+    if (node.integer != current)
+        throw Error("the text is of " + std::string(what) + " " + std::to_string(node.integer) +
+                        ", which cannot be read",
+                    place.Text(), node.line, std::to_string(current));
 }
 
 std::vector<Staged> ReadAll(JsonNode const& root) {
@@ -57,7 +61,7 @@ std::vector<Staged> ReadAll(JsonNode const& root) {
             throw Error(std::string(member.value.KindText()) + " cannot stand here", place.Text(),
                         member.value.line, "an object of names and objects");
         for (JsonMember const& entry : member.value.members) {
-            JsonPlace const entryPlace(place, entry.key);
+            JsonPlace const entryPlace = JsonPlace::Entry(place, entry.key);
             RequireName(entry.key, place.Text(), entry.value.line);
             staged.push_back({collection, cow_String(std::string_view(entry.key)),
                               ReadObject(entry.value, entryPlace, collection->Held()),
@@ -86,6 +90,8 @@ private:
 }  // namespace
 
 std::vector<Imported> ImportJson(Document& document, std::string_view text, OnConflict onConflict) {
+    if (text.substr(0, databaseMark.size()) == databaseMark)
+        throw Error("this is a database, not a text", std::string(), 0, "a JSON text");
     std::vector<Staged> staged = ReadAll(ParseJson(text));
     ddr_Model& model = document.Model();
     std::vector<Imported> report;
@@ -117,6 +123,7 @@ std::vector<Imported> ImportJson(Document& document, std::string_view text, OnCo
 std::string ExportJson(Document const& document) {
     JsonWriter writer;
     Defaults defaults;
+    std::string const root = DocumentPath(document);
     writer.BeginObject();
     writer.Key("nga");
     writer.Int(textForm);
@@ -127,14 +134,25 @@ std::string ExportJson(Document const& document) {
         writer.Key(collection->Name());
         writer.BeginObject();
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
-            writer.Key(key.View());
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
-            if (description)
+            if (!IsUsableName(key.View()))
+                writer.SetUnreadable("the name " + Quoted(key.View()) + " cannot be used");
+            writer.Key(key.View());
+            if (description) {
                 WriteObject(writer, defaults, collection->Held(), *description, object,
                             defaults.Of(*description));
-            else
+            } else {
+                writer.SetUnreadable(object ? "the object is of a class without a description"
+                                            : "there is no object under the name");
                 writer.Null();
+            }
+            if (writer.Depth() > static_cast<std::size_t>(jsonMaxDepth))
+                writer.SetUnreadable("the object nests deeper than the " +
+                                     std::to_string(jsonMaxDepth) + " levels of a text");
+            if (!writer.Unreadable().empty())
+                throw Error(writer.Unreadable() + ", so that no import could read the text",
+                            EntryPath(root, *collection, key.View()));
         });
         writer.EndObject();
     }

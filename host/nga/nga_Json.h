@@ -27,7 +27,8 @@ struct Imported {
 };
 
 /// The text form of a whole document. Importing it into a new document gives the same document
-/// again, and exporting that gives the same text.
+/// again, and exporting that gives the same text. Raises an Error with the path of an object that
+/// no import could bring back: under a name that cannot be used, nested too deep, or missing.
 std::string ExportJson(Document const& document);
 
 /// Puts the objects of a text into a document, in the order of the text, through its repositories,

@@ -43,11 +43,15 @@ void JsonPlace::AddKey(std::string& text, std::string_view key) {
                c == '_';
     });
     if (!plain) {
-        text += "[" + Quoted(key) + "]";
+        AddEntry(text, key);
         return;
     }
     if (!text.empty()) text += '.';
     text += key;
+}
+
+void JsonPlace::AddEntry(std::string& text, std::string_view key) {
+    text += "[" + Quoted(key) + "]";
 }
 
 void JsonPlace::AddIndex(std::string& text, int index) {
@@ -59,6 +63,8 @@ std::string JsonPlace::Text() const {
     std::string text = m_parent->Text();
     if (m_index >= 0)
         AddIndex(text, m_index);
+    else if (m_isEntry)
+        AddEntry(text, m_key);
     else
         AddKey(text, m_key);
     return text;
@@ -99,6 +105,47 @@ private:
     Reading* m_reading;
 };
 
+/// What is wrong with a text, in words for those who write texts.
+struct Fault {
+    std::string message;
+    std::string expected;
+};
+
+// A mark in what the parser reports, and what that means. The first mark that is found tells.
+struct FaultRow {
+    char const* mark;
+    char const* message;
+    char const* expected;
+};
+// clang-format off
+constexpr FaultRow faultRows[] = {
+    {"ill-formed UTF-8",         "a byte belongs to no character",       "UTF-8"},
+    {"invalid BOM",              "a byte belongs to no character",       "UTF-8"},
+    {"U+D800",                   "half of a character is escaped",       "both halves, one after the other"},
+    {"U+DC00",                   "half of a character is escaped",       "both halves, one after the other"},
+    {"after backslash",          "an escape in a string is unknown",     "\\n, \\t, \\\", \\\\ or their like"},
+    {"hex digits",               "an escape in a string is incomplete",  "four hexadecimal digits behind \\u"},
+    {"control character",        "a control character stands bare in a string", "its escape"},
+    {"missing closing quote",    "the text ends within a string",        "a closing \""},
+    {"invalid number",           "a number is misspelt",                 "digits, then perhaps a fraction and an exponent"},
+    {"invalid comment",          "a comment cannot stand here",          ""},
+    {"unexpected end of input",  "the text ends too soon",               ""},
+    {"object key",               "this is no key",                       "a key in double quotes"},
+    {"object separator",         "the key has no ':' behind it",         "a ':'"},
+    {"; expected end of input",  "something stands behind the end",      "one value alone"},
+    {"invalid literal",          "this is no value",                     "a number, a \"text\", true, false, null, an object or an array"},
+    {"; expected '}'",           "the object does not go on like this",  "a ',' or a '}'"},
+    {"; expected ']'",           "the array does not go on like this",   "a ',' or a ']'"},
+    {"parsing value",            "a value is missing",                   "a number, a \"text\", true, false, null, an object or an array"},
+};
+// clang-format on
+
+Fault FaultOf(std::string_view reported) {
+    for (FaultRow const& row : faultRows)
+        if (reported.find(row.mark) != std::string_view::npos) return {row.message, row.expected};
+    return {"it cannot be read here", ""};
+}
+
 class Builder final : public nlohmann::json_sax<nlohmann::json> {
 public:
     Builder(char const* start, Reading const& reading) : m_counted(start), m_reading(reading) {}
@@ -114,7 +161,8 @@ public:
         return true;
     }
     bool number_integer(number_integer_t value) override {
-        return Number(JsonNode::Kind::Integer, value, static_cast<double>(value));
+        // Only what has a minus comes here, so this zero is a negative one.
+        return Number(JsonNode::Kind::Integer, value, value ? static_cast<double>(value) : -0.0);
     }
     bool number_unsigned(number_unsigned_t value) override {
         long long const nearest = value > static_cast<number_unsigned_t>(LLONG_MAX)
@@ -126,6 +174,10 @@ public:
         // Digits alone are an integer, however many.
         if (letters.find_first_of(".eE") == std::string::npos)
             return Number(JsonNode::Kind::Integer, value < 0 ? LLONG_MIN : LLONG_MAX, value);
+        // A number that is not zero must not become it.
+        std::string const digits = letters.substr(0, letters.find_first_of("eE"));
+        if (value == 0 && digits.find_first_of("123456789") != std::string::npos)
+            throw Error("the number is out of range", Place(true), Line(true));
         return Number(JsonNode::Kind::Real, 0, value);
     }
     bool string(string_t& value) override {
@@ -154,13 +206,8 @@ public:
                      nlohmann::json::exception const& failure) override {
         int const line = Line(false);
         if (failure.id == 406) throw Error("the number is out of range", Place(true), line);
-        std::string_view what = failure.what();
-        // The parser's own number and position would only repeat ours.
-        for (std::string_view const mark : {std::string_view("] "), std::string_view(": ")}) {
-            std::size_t const found = what.find(mark);
-            if (found != std::string_view::npos) what.remove_prefix(found + mark.size());
-        }
-        throw Error("the text is no JSON: " + Printable(what), Place(true), line);
+        Fault const fault = FaultOf(failure.what());
+        throw Error("the text is no JSON: " + fault.message, Place(true), line, fault.expected);
     }
 
 private:
@@ -207,25 +254,35 @@ private:
             if (sorted[i]->key != sorted[i - 1]->key) continue;
             m_open.pop_back();
             std::string place = Place(false);
-            JsonPlace::AddKey(place, sorted[i]->key);
+            AddMember(place, m_open.size(), sorted[i]->key);
             throw Error(
                 "the key stands twice, first in line " + std::to_string(sorted[i - 1]->value.line),
                 place, sorted[i]->value.line, "each key once");
         }
     }
     /// Where the parser is. With \p ahead, it has not got so far as to add the value that it reads.
+    /// Of a place that is very deep the first steps say enough.
     std::string Place(bool ahead) const {
+        constexpr std::size_t mostSteps = 12;
         std::string place;
-        for (JsonNode const* open : m_open) {
+        for (std::size_t i = 0; i < m_open.size(); ++i) {
+            JsonNode const* const open = m_open[i];
+            if (i == mostSteps) return place + "...";
             if (open->kind == JsonNode::Kind::Array) {
                 bool const next = ahead && open == m_open.back();
                 JsonPlace::AddIndex(place,
                                     static_cast<int>(open->elements.size()) - (next ? 0 : 1));
             } else if (!open->members.empty()) {
-                JsonPlace::AddKey(place, open->members.back().key);
+                AddMember(place, i, open->members.back().key);
             }
         }
         return place;
+    }
+    static void AddMember(std::string& place, std::size_t depth, std::string_view key) {
+        if (depth == 1)
+            JsonPlace::AddEntry(place, key);
+        else
+            JsonPlace::AddKey(place, key);
     }
 
     std::vector<JsonNode*> m_open;

@@ -34,24 +34,33 @@ struct JsonMember {
     JsonNode value;
 };
 
-/// Where in a text something stands. Lives on the stack beside the value that it names, and is
-/// spelled out only for an error.
+/// Where in a text something stands, in the words of paths: members by name, the entries of
+/// collections and maps by key. Lives on the stack beside the value that it names, and is spelled
+/// out only for an error.
 class JsonPlace {
 public:
     JsonPlace() = default;
     JsonPlace(JsonPlace const& parent, std::string_view key) : m_parent(&parent), m_key(key) {}
     JsonPlace(JsonPlace const& parent, std::size_t index)
         : m_parent(&parent), m_index(static_cast<int>(index)) {}
+    /// The entry of a collection or map.
+    static JsonPlace Entry(JsonPlace const& parent, std::string_view key) {
+        JsonPlace place(parent, key);
+        place.m_isEntry = true;
+        return place;
+    }
 
     std::string Text() const;
     /// Adds one step to the text of a place.
     static void AddKey(std::string& text, std::string_view key);
+    static void AddEntry(std::string& text, std::string_view key);
     static void AddIndex(std::string& text, int index);
 
 private:
     JsonPlace const* m_parent = nullptr;
     std::string_view m_key;
     int m_index = -1;
+    bool m_isEntry = false;
 };
 
 /// How deep a text may nest.
@@ -59,7 +68,8 @@ inline constexpr int jsonMaxDepth = 64;
 
 /// Reads a whole text. Raises an Error with line and place for a text that is no JSON, and for a
 /// duplicate key, a real number out of range, a nesting deeper than jsonMaxDepth and a text that is
-/// no UTF-8. The escape of bytes in texts and keys is undone.
+/// no UTF-8. The escape of bytes in texts and keys is undone. Places take the text for a document:
+/// the second level's members are the entries of collections.
 JsonNode ParseJson(std::string_view text);
 
 }  // namespace nga

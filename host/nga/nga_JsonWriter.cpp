@@ -1,5 +1,6 @@
 #include "nga_JsonWriter.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -130,6 +131,7 @@ void JsonWriter::Open(char bracket, bool inlined) {
     bool const inside = !m_levels.empty() && m_levels.back().inlined;
     m_text += bracket;
     m_levels.push_back({inlined || inside, true});
+    m_depth = std::max(m_depth, m_levels.size());
 }
 
 void JsonWriter::Close(char bracket) {

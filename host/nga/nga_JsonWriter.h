@@ -27,6 +27,16 @@ public:
     void Float(float value) { Raw(FloatText(value)); }
     void String(std::string_view value) { Raw(StringText(value)); }
 
+    /// The deepest nesting so far.
+    std::size_t Depth() const { return m_depth; }
+    /// Notes that what is being written has no text that could be read again, and why. Who only
+    /// shows it goes on; who promises to read it asks Unreadable().
+    void SetUnreadable(std::string const& reason) {
+        if (m_unreadable.empty()) m_unreadable = reason;
+    }
+    /// The first such reason; empty if there is none.
+    std::string const& Unreadable() const { return m_unreadable; }
+
     /// The text so far, with a line end.
     std::string Take();
     /// The same without the line end, for a value inside a line.
@@ -52,6 +62,8 @@ private:
 
     std::string m_text;
     std::vector<Level> m_levels;
+    std::size_t m_depth = 0;
+    std::string m_unreadable;
     bool m_afterKey = false;
 };
 

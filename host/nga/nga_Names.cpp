@@ -6,14 +6,18 @@
 
 namespace nga {
 
+bool IsUsableName(std::string_view name) {
+    return !name.empty() && std::none_of(name.begin(), name.end(), [](char letter) {
+        unsigned char const c = static_cast<unsigned char>(letter);
+        return c < 0x20 || c == 0x7f || c == '\'' || c == '"' || c == '\\';
+    });
+}
+
 void RequireName(std::string_view name, std::string const& owner, int line) {
     if (name.empty()) throw Error("a name cannot be empty", owner, line);
-    for (char const letter : name) {
-        unsigned char const c = static_cast<unsigned char>(letter);
-        if (c < 0x20 || c == 0x7f || c == '\'' || c == '"' || c == '\\')
-            throw Error("the name " + Quoted(name) + " cannot be used", owner, line,
-                        "a name without quotes, backslashes and control characters");
-    }
+    if (!IsUsableName(name))
+        throw Error("the name " + Quoted(name) + " cannot be used", owner, line,
+                    "a name without quotes, backslashes and control characters");
 }
 
 namespace {

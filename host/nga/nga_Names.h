@@ -11,6 +11,9 @@ namespace nga {
 /// an Error about \p owner ("the document", or a path).
 void RequireName(std::string_view name, std::string const& owner, int line = 0);
 
+/// Whether RequireName() would let it pass.
+bool IsUsableName(std::string_view name);
+
 /// The names among \p known that somebody may have meant by \p given, nearest first, at most three.
 std::vector<std::string> NearNames(std::string_view given, std::vector<std::string> const& known);
 /// " (did you mean 'elastic'?)", or nothing.

@@ -1,10 +1,9 @@
 #include "nga_Path.h"
 
-#include <algorithm>
 #include <charconv>
-#include <cstring>
 
 #include "cls_xp.h"
+#include "kmaC_MaterialOptionShortcut.h"
 #include "nga_Error.h"
 #include "nga_Names.h"
 #include "nga_TextForm.h"
@@ -25,24 +24,11 @@ std::string IndexStep(int index) { return "[" + std::to_string(index) + "]"; }
 
 namespace {
 
-/// The optional members that no key leads to, though their like have one.
-struct Unkeyed {
-    unsigned owner;
-    char const* script;
-};
-constexpr Unkeyed unkeyed[] = {
-    {0x2380001, "mullinsEffect"},
-    {0x2380070, "potential"},
-};
-
-/// Whether scripts reach the member as .options['...']: so they do in materials and their options.
+/// Whether scripts reach the member as .options['...'], as they do most of those of materials and
+/// their options. Only what a key leads to has that form, else the path could not be typed back.
 bool IsKeyed(mdl_Description const& owner, mdl_Field const& field) {
-    constexpr unsigned materialComponent = 0x238;
-    if (field.Type().Kind() != mdl_FieldKind::Option) return false;
-    if (owner.TypeId() >> 16 != materialComponent) return false;
-    return std::none_of(std::begin(unkeyed), std::end(unkeyed), [&](Unkeyed const& row) {
-        return row.owner == owner.TypeId() && std::strcmp(row.script, field.Script()) == 0;
-    });
+    return field.Type().Kind() == mdl_FieldKind::Option &&
+           kmaC_IsOptionKey(owner.TypeId(), field.Script());
 }
 
 }  // namespace

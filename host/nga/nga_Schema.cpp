@@ -7,6 +7,7 @@
 
 #include "cls_MetadataRegistrar.h"
 #include "nga_Error.h"
+#include "nga_FieldLiterals.h"
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
 #include "nga_Start.h"
@@ -68,9 +69,12 @@ std::string CollectionText(cls_CollectionType collection) {
     return "";
 }
 
-/// The registered name of a class, or its number where it is not registered here.
+/// The name under which a class is registered, which is that of its table in files. Numbers that
+/// are no class's own, as those of lists, have a name in the type table, or none.
 std::string NameOf(unsigned typeId) {
     if (typeId == cls_RootTypeId) return "";
+    for (cls_ClassMetadata const* metadata : SchemaClasses())
+        if (metadata->TypeId() == typeId) return std::string(metadata->Name().View());
     char const* const name = typ_ArchCompTable::GetName(typeId);
     return *name ? name : Hex(typeId);
 }
@@ -86,28 +90,40 @@ struct Known {
         if (!description || index >= description->Fields().size()) return nullptr;
         return &description->Fields()[index];
     }
-    /// Empty for an object, whose own class tells its defaults, and where nothing can be made.
-    std::string Default(mdl_Field const* field) const {
-        if (!field || !usual) return std::string();
-        switch (field->Type().Kind()) {
-            case mdl_FieldKind::Object:
-                if (!IsTable(*field->Type().Held())) return std::string();
-                break;
-            case mdl_FieldKind::Option:
-                return "null";
-            default:
-                break;
-        }
-        return ValueText(*field, field->At(usual.get()));
+    /// Objects that are no tables have none here, as their own class tells its defaults.
+    bool HasDefault(mdl_Field const* field) const {
+        return field && usual &&
+               (field->Type().Kind() != mdl_FieldKind::Object || IsTable(*field->Type().Held()));
+    }
+    /// A table says what differs from a new table: its owner may have set a flag.
+    void WriteDefault(JsonWriter& writer, mdl_Field const& field) const {
+        Defaults defaults;
+        void const* const at = field.At(usual.get());
+        bool const table = field.Type().Kind() == mdl_FieldKind::Object;
+        WriteField(writer, defaults, field, at, table ? defaults.Of(*field.Type().Held()) : at);
+    }
+    std::string DefaultText(mdl_Field const* field) const {
+        if (!HasDefault(field)) return std::string();
+        if (field->Type().Kind() != mdl_FieldKind::Object)
+            return ValueText(*field, field->At(usual.get()));
+        JsonWriter writer;
+        writer.BeginArray(true);
+        WriteDefault(writer, *field);
+        writer.EndArray();
+        std::string const text = writer.TakeValue();
+        return text.substr(1, text.size() - 2);
     }
 
     mdl_Description const* description;
     DescribedObject usual;
 };
 
-std::vector<std::string> Literals(mdl_Field const* field) {
+std::vector<std::string> Literals(Known const& known, mdl_Field const* field) {
     std::vector<std::string> literals;
-    if (!field || !field->Type().Rows()) return literals;
+    if (!field) return literals;
+    for (FieldLiteral const* row : LiteralsOf(*known.description, *field))
+        literals.emplace_back(row->literal);
+    if (!field->Type().Rows()) return literals;
     for (omu_EnumRow const* row = field->Type().Rows(); row->literal; ++row)
         literals.emplace_back(row->literal);
     return literals;
@@ -156,13 +172,13 @@ void AddText(std::string& text, cls_ClassMetadata const& metadata) {
         cls_Attribute const& attribute = metadata.Attributes()[i];
         mdl_Field const* field = known.Field(i);
         std::string literals;
-        for (std::string const& literal : Literals(field))
+        for (std::string const& literal : Literals(known, field))
             literals += (literals.empty() ? "" : ", ") + literal;
         rows.push_back({std::to_string(attribute.field.Index()),
                         std::string(attribute.field.Name().View()), field ? field->Script() : "",
                         std::to_string(static_cast<int>(attribute.type)), Hex(attribute.arg),
                         std::to_string(static_cast<int>(attribute.collection)), TypeText(attribute),
-                        known.Default(field), literals});
+                        known.DefaultText(field), literals});
     }
     text += Aligned(rows);
 }
@@ -201,19 +217,16 @@ void AddJson(JsonWriter& writer, cls_ClassMetadata const& metadata) {
         text("argument", Hex(attribute.arg));
         number("collection", static_cast<int>(attribute.collection));
         text("type", TypeText(attribute));
-        std::vector<std::string> const literals = Literals(field);
+        std::vector<std::string> const literals = Literals(known, field);
         if (!literals.empty()) {
             writer.Key("literals");
             writer.BeginArray(true);
             for (std::string const& literal : literals) writer.String(literal);
             writer.EndArray();
         }
-        bool const held = field && field->Type().Held() && !IsTable(*field->Type().Held());
-        if (field && known.usual && !held) {
-            Defaults defaults;
-            void const* const at = field->At(known.usual.get());
+        if (known.HasDefault(field)) {
             writer.Key("default");
-            WriteField(writer, defaults, *field, at, at);
+            known.WriteDefault(writer, *field);
         }
         writer.EndObject();
     }

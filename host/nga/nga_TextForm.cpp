@@ -4,6 +4,8 @@
 
 #include "cls_MetadataRegistrar.h"
 #include "cls_xp.h"
+#include "nga_FieldLiterals.h"
+#include "nga_Names.h"
 #include "omi_Singleton.h"
 
 namespace nga {
@@ -134,6 +136,7 @@ void WriteHeld(JsonWriter& writer, Defaults& defaults, mdl_FieldType const& type
                void const* object) {
     mdl_Description const* description = mdl_Description::Find(type.DynTypeIdOf(object));
     if (!description) {
+        writer.SetUnreadable("an object is of a class without a description");
         writer.Null();
         return;
     }
@@ -144,6 +147,9 @@ void WriteFloats(JsonWriter& writer, cls_xpMapString2Float const& values) {
     writer.BeginObject();
     cow_ConstMapIterator<cow_String, float> position(values);
     for (position.First(); !position.IsDone(); position.Next()) {
+        if (!IsUsableName(position.CurrentKey().View()))
+            writer.SetUnreadable("the name " + Quoted(position.CurrentKey().View()) +
+                                 " cannot be used");
         writer.Key(position.CurrentKey().View());
         writer.Float(position.CurrentValue());
     }
@@ -155,6 +161,10 @@ void WriteFloats(JsonWriter& writer, cls_xpMapString2Float const& values) {
 void WriteField(JsonWriter& writer, Defaults& defaults, mdl_Field const& field, void const* at,
                 void const* usual) {
     mdl_FieldType const& type = field.Type();
+    if (IsNotSet(field, at)) {
+        writer.Null();
+        return;
+    }
     switch (type.Kind()) {
         case mdl_FieldKind::Int:
             writer.Int(At<int>(at));
@@ -171,10 +181,13 @@ void WriteField(JsonWriter& writer, Defaults& defaults, mdl_Field const& field, 
         case mdl_FieldKind::Enum: {
             omu_EnumRow const* row = omu_PrimEnumBase::FindRow(type.Rows(), type.Number(at));
             // A number without a literal can come only from code that forced it in.
-            if (row)
+            if (row) {
                 writer.String(row->literal);
-            else
+            } else {
+                writer.SetUnreadable("the field " + Quoted(field.Script()) +
+                                     " has a number without a literal");
                 writer.Int(type.Number(at));
+            }
             return;
         }
         case mdl_FieldKind::Object:

@@ -5,6 +5,7 @@
 
 #include "cls_xp.h"
 #include "nga_Error.h"
+#include "nga_FieldLiterals.h"
 #include "nga_Names.h"
 #include "nga_TextForm.h"
 
@@ -46,31 +47,35 @@ bool ReadBits(std::string const& text, Bits& bits) {
     return true;
 }
 
-template <class Real, class Bits>
-Real ReadSpecial(JsonNode const& node, JsonPlace const& place, Bits usual) {
-    static_assert(sizeof(Real) == sizeof(Bits));
-    Bits bits = usual;
-    if (node.text == "Infinity") return std::numeric_limits<Real>::infinity();
-    if (node.text == "-Infinity") return -std::numeric_limits<Real>::infinity();
-    if (node.text == "NaN" || ReadBits(node.text, bits)) {
-        Real value;
-        std::memcpy(&value, &bits, sizeof value);
-        if (std::isnan(value)) return value;
+template <class Real>
+bool IsSpecial(std::string const& text, Real& value) {
+    using Bits = std::conditional_t<sizeof(Real) == 8, std::uint64_t, std::uint32_t>;
+    Bits bits = static_cast<Bits>(sizeof(Real) == 8 ? 0x7ff8000000000000u : 0x7fc00000u);
+    if (text == "Infinity" || text == "-Infinity") {
+        value = std::numeric_limits<Real>::infinity() * (text[0] == '-' ? -1 : 1);
+        return true;
     }
+    if (text != "NaN" && !ReadBits(text, bits)) return false;
+    std::memcpy(&value, &bits, sizeof value);
+    return std::isnan(value);
+}
+
+template <class Real>
+Real ReadSpecial(JsonNode const& node, JsonPlace const& place) {
+    Real value = 0;
+    if (IsSpecial(node.text, value)) return value;
     Refuse(node, place, "the text " + Quoted(node.text) + " is no number",
            "a number, \"NaN\", \"Infinity\" or \"-Infinity\"");
 }
 
 double ReadDouble(JsonNode const& node, JsonPlace const& place) {
     if (node.IsNumber()) return node.real;
-    if (node.kind == Kind::String)
-        return ReadSpecial<double>(node, place, std::uint64_t{0x7ff8000000000000});
+    if (node.kind == Kind::String) return ReadSpecial<double>(node, place);
     Refuse(node, place, std::string(node.KindText()) + " cannot stand here", "a number");
 }
 
 float ReadFloat(JsonNode const& node, JsonPlace const& place) {
-    if (node.kind == Kind::String)
-        return ReadSpecial<float>(node, place, std::uint32_t{0x7fc00000});
+    if (node.kind == Kind::String) return ReadSpecial<float>(node, place);
     double const value = ReadDouble(node, place);
     // Conversion to a narrower type is defined only where the value lies in its range; up to half a
     // step beyond the largest number, that number is still the nearest.
@@ -153,12 +158,13 @@ void ReadTable(JsonNode const& node, JsonPlace const& place, cls_xp2DArrayDouble
         *static_cast<bool*>(flag->At(table)) = member.value.boolean;
     }
     if (JsonNode const* rows = node.Find("data"))
-        cells = ReadRows(*rows, JsonPlace(place, "data"), columns);
+        cells = ReadRows(*rows, place, columns);  // paths know the rows without their key
     else
         cells = cow_2DArray<double>(0, std::max(columns, 0));
 }
 
-void ReadField(mdl_Field const& field, void* at, JsonNode const& node, JsonPlace const& place);
+void ReadField(mdl_Description const& owner, mdl_Field const& field, void* at, JsonNode const& node,
+               JsonPlace const& place);
 
 void Fill(mdl_Description const& description, void* object, JsonNode const& node,
           JsonPlace const& place) {
@@ -180,7 +186,7 @@ void Fill(mdl_Description const& description, void* object, JsonNode const& node
                 "unknown key" + DidYouMean(member.key, ScriptNames(description)),
                 std::string("a member of ") +
                     (description.Constructor() ? description.Constructor() : description.Name()));
-        ReadField(*field, field->At(object), member.value, memberPlace);
+        ReadField(description, *field, field->At(object), member.value, memberPlace);
     }
 }
 
@@ -199,14 +205,46 @@ void ReadList(mdl_FieldType const& type, void* at, JsonNode const& node, JsonPla
 void ReadFloats(cls_xpMapString2Float& to, JsonNode const& node, JsonPlace const& place) {
     Require(node, place, Kind::Object, "an object of names and numbers");
     cow_Map<cow_String, float> values;
-    for (JsonMember const& member : node.members)
+    for (JsonMember const& member : node.members) {
+        RequireName(member.key, place.Text(), member.value.line);
         values.Insert(cow_String(std::string_view(member.key)),
-                      ReadFloat(member.value, JsonPlace(place, member.key)));
+                      ReadFloat(member.value, JsonPlace::Entry(place, member.key)));
+    }
     to = values;
 }
 
-void ReadField(mdl_Field const& field, void* at, JsonNode const& node, JsonPlace const& place) {
+/// What may stand for a plain number without being one: null, and the literals of the field.
+bool ReadStandIn(mdl_Description const& owner, mdl_Field const& field, void* at,
+                 JsonNode const& node, JsonPlace const& place) {
+    mdl_FieldKind const kind = field.Type().Kind();
+    if (kind != mdl_FieldKind::Int && kind != mdl_FieldKind::Double) return false;
+    if (node.kind == Kind::Null) return SetNotSet(field, at);
+    if (node.kind != Kind::String) return false;
+    std::vector<FieldLiteral const*> const rows = LiteralsOf(owner, field);
+    std::vector<std::string> names;
+    std::string expected = "a number, null";
+    for (FieldLiteral const* row : rows) {
+        if (node.text == row->literal) {
+            if (kind == mdl_FieldKind::Int)
+                *static_cast<int*>(at) = static_cast<int>(row->value);
+            else
+                *static_cast<double*>(at) = row->value;
+            return true;
+        }
+        names.emplace_back(row->literal);
+        expected += " or " + Quoted(row->literal);
+    }
+    double special = 0;
+    if (!rows.empty() && !(kind == mdl_FieldKind::Double && IsSpecial(node.text, special)))
+        Refuse(node, place, "unknown literal " + Quoted(node.text) + DidYouMean(node.text, names),
+               expected);
+    return false;
+}
+
+void ReadField(mdl_Description const& owner, mdl_Field const& field, void* at, JsonNode const& node,
+               JsonPlace const& place) {
     mdl_FieldType const& type = field.Type();
+    if (ReadStandIn(owner, field, at, node, place)) return;
     switch (type.Kind()) {
         case mdl_FieldKind::Int:
             *static_cast<int*>(at) = ReadInt(node, place);
@@ -263,6 +301,16 @@ void ReadField(mdl_Field const& field, void* at, JsonNode const& node, JsonPlace
     }
 }
 
+/// Names the choices where they are few, else only how many there are.
+std::string OneOf(std::vector<std::string> const& names) {
+    constexpr std::size_t most = 6;
+    std::string text = "one of ";
+    for (std::size_t i = 0; i < names.size() && i < most; ++i)
+        text += (i == 0 ? "" : ", ") + names[i];
+    if (names.size() > most) text += " and " + std::to_string(names.size() - most) + " more";
+    return text;
+}
+
 /// The class that the text names, or the declared one.
 mdl_Description const& ClassOf(JsonNode const& node, JsonPlace const& place,
                                mdl_Description const& declared) {
@@ -272,8 +320,7 @@ mdl_Description const& ClassOf(JsonNode const& node, JsonPlace const& place,
     std::vector<mdl_Description const*> const classes = ClassesBelow(declared);
     std::vector<std::string> names;
     for (mdl_Description const* known : classes) names.push_back(ClassText(*known, declared));
-    std::string expected = "one of";
-    for (std::string const& name : names) expected += (name == names[0] ? " " : ", ") + name;
+    std::string const expected = OneOf(names);
     if (!named) Refuse(node, place, "the object's \"class\" is missing", expected);
     JsonPlace const namedPlace(place, "class");
     Require(*named, namedPlace, Kind::String, expected.c_str());

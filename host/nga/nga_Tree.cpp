@@ -1,11 +1,10 @@
 #include "nga_Tree.h"
 
 #include <algorithm>
-#include <cfloat>
-#include <climits>
 #include <cstring>
 
 #include "cls_xp.h"
+#include "nga_FieldLiterals.h"
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
 #include "nga_TextForm.h"
@@ -20,13 +19,6 @@ std::string SizeText(cls_xp2DArrayDouble const& cells) {
 
 std::string Counted(int count, char const* what) {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
-bool IsUnset(mdl_Field const& field, void const* at) {
-    if (field.Type().Kind() == mdl_FieldKind::Double)
-        return *static_cast<double const*>(at) == DBL_MAX;
-    if (field.Type().Kind() == mdl_FieldKind::Int) return *static_cast<int const*>(at) == INT_MAX;
-    return false;
 }
 
 /// As much of a text as a line of a tree has room for.
@@ -168,7 +160,7 @@ std::string TreeJson(TreeNode const& root) {
 }
 
 std::string ValueText(mdl_Field const& field, void const* at) {
-    if (IsUnset(field, at)) return "not set";
+    if (IsNotSet(field, at)) return "not set";
     JsonWriter writer;
     Defaults defaults;
     // On one line: an array of its own makes it so.

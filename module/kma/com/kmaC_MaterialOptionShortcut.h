@@ -19,6 +19,11 @@ using kmaC_MaterialOptionInMaterialOptionShortcut =
 /// rules.
 atr_String kmaC_ShortcutErrorText(int code);
 
+/// Whether the key leads from an object of that class, a material or an option, to one of its
+/// members. Members without a key are reached as attributes only. Asks for reading: one class knows
+/// a member by another key for writing.
+bool kmaC_IsOptionKey(unsigned typeId, char const* key);
+
 template <>
 struct ddr_ShortcutTraits<kmaC_MaterialOption> {
     static constexpr unsigned typeId = 0x238006C;

@@ -240,7 +240,7 @@ TEST(Tool, AFailingTextNamesItsFileLineAndPlace) {
     ToolRun const run = RunNga({"check", file});
     EXPECT_EQ(run.code, 2);
     EXPECT_EQ(run.err, "nga: " + file +
-                           ":2: materials.a.elastic.typ: unknown key (did you mean 'type'?); "
+                           ":2: materials['a'].elastic.typ: unknown key (did you mean 'type'?); "
                            "expected a member of Elastic\n");
 }
 
@@ -288,7 +288,7 @@ TEST(Tool, JournalShowsTheRecordsOfAnImportAsTheyWereSent) {
               "[]\n");
     ToolRun const refused = RunNga({"journal", second, "--into", first});
     EXPECT_EQ(refused.code, 2);
-    EXPECT_NE(refused.err.find("materials.a: the document has an object of this name already"),
+    EXPECT_NE(refused.err.find("materials['a']: the document has an object of this name already"),
               std::string::npos);
 }
 
@@ -332,7 +332,7 @@ TEST(Tool, ANameThatIsThereAlreadyFollowsTheStatedRule) {
     std::string const bytes = FileContent(file);
     ToolRun const refused = RunNga({"import", second, "--into", file});
     EXPECT_EQ(refused.code, 2);
-    EXPECT_NE(refused.err.find("2.json:1: materials.a: "), std::string::npos) << refused.err;
+    EXPECT_NE(refused.err.find("2.json:1: materials['a']: "), std::string::npos) << refused.err;
     EXPECT_EQ(FileContent(file), bytes);
     std::string const path = "materials['a'].description";
     EXPECT_EQ(RunNga({"import", second, "--into", file, "--on-conflict", "keep"}).code, 0);

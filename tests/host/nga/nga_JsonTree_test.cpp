@@ -63,6 +63,7 @@ TEST(ParseJson, NumbersKeepTheirKindAndValue) {
 TEST(ParseJson, ADuplicateKeyIsRefusedWithBothLines) {
     nga::Error const failure = FailureOf("{\n\"a\": {\n\"b c\": 1,\n\"d\": 2,\n\"b c\": 3}}");
     EXPECT_EQ(failure.Place(), "a['b c']");
+    EXPECT_EQ(FailureOf("{\"a\": {\"b\": {\"c\": 1, \"c\": 2}}}").Place(), "a['b'].c");
     EXPECT_EQ(failure.Line(), 5);
     EXPECT_EQ(failure.Message(), "the key stands twice, first in line 3");
     EXPECT_EQ(failure.Expected(), "each key once");
@@ -86,6 +87,64 @@ TEST(ParseJson, ARealOutOfRangeIsRefusedWhereItStands) {
     EXPECT_EQ(failure.Message(), "the number is out of range");
     EXPECT_EQ(failure.Line(), 3);
     EXPECT_EQ(failure.Place(), "a[2]");
+}
+
+TEST(ParseJson, ARealThatOnlyRoundingMakesZeroIsRefused) {
+    EXPECT_EQ(FailureOf("[1,\n1e-400]").Message(), "the number is out of range");
+    EXPECT_EQ(FailureOf("[1,\n1e-400]").Line(), 2);
+    EXPECT_EQ(FailureOf("[1,\n1e-400]").Place(), "[1]");
+    EXPECT_EQ(FailureOf("-0.0001e-999").Message(), "the number is out of range");
+    EXPECT_EQ(ParseJson("0e-400").real, 0.0);
+    EXPECT_EQ(ParseJson("0.0e9").real, 0.0);
+    EXPECT_EQ(ParseJson("4.9e-324").real, 4.9e-324);
+    EXPECT_TRUE(std::signbit(ParseJson("-0").real));
+    EXPECT_TRUE(std::signbit(ParseJson("-0e-400").real));
+    EXPECT_FALSE(std::signbit(ParseJson("0").real));
+}
+
+TEST(ParseJson, AVeryDeepPlaceIsToldByItsFirstSteps) {
+    nga::Error const failure = FailureOf(Nested(65));
+    EXPECT_EQ(failure.Place(), "[0][0][0][0][0][0][0][0][0][0][0][0]...");
+}
+
+TEST(ParseJson, FaultsAreToldInOurWords) {
+    struct {
+        char const* text;
+        char const* message;
+        char const* expected;
+    } const cases[] = {
+        {"", "the text ends too soon", ""},
+        {"{\"a\": 1", "the text ends too soon", ""},
+        {"{\"a\": }", "a value is missing",
+         "a number, a \"text\", true, false, null, an object or an array"},
+        {"[1, 2,]", "a value is missing",
+         "a number, a \"text\", true, false, null, an object or an array"},
+        {"[nul]", "this is no value",
+         "a number, a \"text\", true, false, null, an object or an array"},
+        {"[NaN]", "this is no value",
+         "a number, a \"text\", true, false, null, an object or an array"},
+        {"{a: 1}", "this is no key", "a key in double quotes"},
+        {"{\"a\": 1,}", "this is no key", "a key in double quotes"},
+        {"{\"a\" 1}", "the key has no ':' behind it", "a ':'"},
+        {"{\"a\": 1 \"b\": 2}", "the object does not go on like this", "a ',' or a '}'"},
+        {"[1 2]", "the array does not go on like this", "a ',' or a ']'"},
+        {"[1]]", "something stands behind the end", "one value alone"},
+        {"[1.]", "a number is misspelt", "digits, then perhaps a fraction and an exponent"},
+        {"[\"a", "the text ends within a string", "a closing \""},
+        {"[\"\\x\"]", "an escape in a string is unknown", "\\n, \\t, \\\", \\\\ or their like"},
+        {"[\"\\u12\"]", "an escape in a string is incomplete",
+         "four hexadecimal digits behind \\u"},
+        {"[\"\\ud800\"]", "half of a character is escaped", "both halves, one after the other"},
+        {"[\"\\udc00\"]", "half of a character is escaped", "both halves, one after the other"},
+        {"[\"\t\"]", "a control character stands bare in a string", "its escape"},
+        {"[\"\xff\"]", "a byte belongs to no character", "UTF-8"},
+    };
+    for (auto const& one : cases) {
+        nga::Error const failure = FailureOf(one.text);
+        EXPECT_EQ(failure.Message(), std::string("the text is no JSON: ") + one.message)
+            << one.text;
+        EXPECT_EQ(failure.Expected(), one.expected) << one.text;
+    }
 }
 
 TEST(ParseJson, WhatIsNoJsonIsRefusedWithItsLine) {
@@ -119,9 +178,9 @@ TEST(ParseJson, AnOrderMarkAtTheStartIsPassedOver) {
 TEST(JsonPlace, SpellsKeysAndIndices) {
     nga::JsonPlace const top;
     nga::JsonPlace const materials(top, "materials");
-    nga::JsonPlace const steel(materials, "AISI 304");
+    nga::JsonPlace const steel = nga::JsonPlace::Entry(materials, "AISI");
     nga::JsonPlace const table(steel, "table");
     nga::JsonPlace const row(table, 3u);
     EXPECT_EQ(top.Text(), "");
-    EXPECT_EQ(row.Text(), "materials['AISI 304'].table[3]");
+    EXPECT_EQ(row.Text(), "materials['AISI'].table[3]");
 }

@@ -4,6 +4,8 @@
 
 #include "nga_Error.h"
 #include "nga_Journal.h"
+#include "nga_JsonTree.h"
+#include "nga_Path.h"
 #include "omu_ChangeHistory.h"
 #include "thr_ThreadSingleton.h"
 
@@ -95,7 +97,7 @@ TEST(Json, APresentNameIsAnErrorUnlessARuleIsGiven) {
     ImportJson(document, text);
     nga::Error const failure =
         FailureOf(document, "{\"materials\": {\"tin\": {},\n\"steel\": {}}}");
-    EXPECT_EQ(failure.Place(), "materials.steel");
+    EXPECT_EQ(failure.Place(), "materials['steel']");
     EXPECT_EQ(failure.Line(), 2);
 }
 
@@ -154,10 +156,15 @@ TEST(Json, NamesOfAnyOtherLettersComeBack) {
 }
 
 TEST(Json, TheHeadIsChecked) {
-    EXPECT_EQ(FailureOf("{\"nga\": 1, \"schema\": 203}").Message(), "nothing failed");
-    EXPECT_EQ(FailureOf("{\"nga\": 2}").Message(), "text form 2 is not known to this version");
-    EXPECT_EQ(FailureOf("{\"schema\": 1112}").Message(),
-              "schema 1112 is not known to this version");
+    EXPECT_EQ(FailureOf("{\"nga\": 1, \"schema\": 1111}").Message(), "nothing failed");
+    EXPECT_EQ(FailureOf("{\"nga\": 2}").Message(),
+              "the text is of text form 2, which cannot be read");
+    for (char const* schema : {"203", "1110", "1112"}) {
+        nga::Error const failure = FailureOf(std::string("{\"schema\": ") + schema + "}");
+        EXPECT_EQ(failure.Message(),
+                  std::string("the text is of schema ") + schema + ", which cannot be read");
+        EXPECT_EQ(failure.Expected(), "1111");
+    }
     EXPECT_EQ(FailureOf("{\"schema\": \"1111\"}").Expected(), "a number");
     EXPECT_EQ(FailureOf("{\"material\": {}}").Message(), "unknown key (did you mean 'materials'?)");
     EXPECT_EQ(FailureOf("{\"materials\": []}").Expected(), "an object of names and objects");
@@ -170,4 +177,97 @@ TEST(Json, AnErrorNamesPlaceLineAndExpectationInOneLine) {
         FailureOf("{\"materials\": {\"st 1\":\n{\"elastic\": {\"dependencies\": true}}}}").what(),
         "line 2: materials['st 1'].elastic.dependencies: true cannot stand here; "
         "expected an integer");
+}
+
+TEST(Json, APlaceInATextCanBeTypedAsAPath) {
+    Document document = Document::New("document");
+    ImportJson(document,
+               "{\"materials\": {\"steel\": {\"elastic\": {\"table\": [[1, 2]]}}},"
+               " \"loadCases\": {\"wind\": {\"loads\": {\"gust\": 1}}}}");
+    for (char const* broken :
+         {"{\"materials\": {\"steel\": {\"elastic\": {\"table\": [[1, \"x\"]]}}}}",
+          "{\"materials\": {\"steel\": {\"elastic\": {\"table\": {\"data\": [[1, true]]}}}}}",
+          "{\"materials\": {\"steel\": {\"elastic\": {\"table\": [[1, 1e999]]}}}}",
+          "{\"materials\": {\"steel\": {\"elastic\": {\"type\": \"X\"}}}}",
+          "{\"loadCases\": {\"wind\": {\"loads\": {\"gust\": \"strong\"}}}}"}) {
+        std::string const place = FailureOf(document, broken, OnConflict::Replace).Place();
+        EXPECT_NO_THROW(nga::Resolve(document, place)) << place;
+        EXPECT_NE(place.find("['"), std::string::npos) << place;
+    }
+}
+
+TEST(Json, ADatabaseIsToldFromAText) {
+    EXPECT_EQ(FailureOf(std::string("SQLite format 3\0and more", 24)).Message(),
+              "this is a database, not a text");
+}
+
+namespace {
+
+nga::Error ExportFailureOf(Document const& document) {
+    try {
+        ExportJson(document);
+    } catch (nga::Error const& failure) {
+        return failure;
+    }
+    return nga::Error("nothing failed");
+}
+
+}  // namespace
+
+TEST(Json, WhatCouldNotBeImportedAgainIsNotExported) {
+    std::string const tail = ", so that no import could read the text";
+    {
+        Document document = Document::New("frame");
+        document.Materials().Insert("it's", new kmaC_Material);
+        EXPECT_EQ(ExportFailureOf(document).Place(), "documents['frame'].materials['it\\'s']");
+        EXPECT_EQ(ExportFailureOf(document).Message(), "the name 'it\\'s' cannot be used" + tail);
+    }
+    {
+        Document document = Document::New("frame");
+        auto* wind = new klcC_LoadCase;
+        wind->loads.Insert("a\nb", 1.0f);
+        document.LoadCases().Insert("wind", wind);
+        EXPECT_EQ(ExportFailureOf(document).Place(), "documents['frame'].loadCases['wind']");
+        EXPECT_EQ(ExportFailureOf(document).Message(), "the name 'a\\nb' cannot be used" + tail);
+    }
+    {
+        Document document = Document::New("frame");
+        document.Materials().Insert("none", static_cast<kmaC_Material*>(nullptr));
+        EXPECT_EQ(ExportFailureOf(document).Place(), "documents['frame'].materials['none']");
+        EXPECT_EQ(ExportFailureOf(document).Message(), "there is no object under the name" + tail);
+    }
+    {
+        Document document = Document::New("frame");
+        auto* steel = new kmaC_Material;
+        steel->elastic = new kmaC_Elastic;
+        steel->elastic.Get().type = static_cast<kmaC_Elastic::TypeEnm>(99);
+        document.Materials().Insert("steel", steel);
+        EXPECT_EQ(ExportFailureOf(document).Message(),
+                  "the field 'type' has a number without a literal" + tail);
+    }
+}
+
+TEST(Json, AsDeepAsATextMayNestIsExportedAndNoDeeper) {
+    // Each level of a list within an option takes two levels of the text.
+    for (int levels : {20, 29, 30, 31, 40}) {
+        Document document = Document::New("frame");
+        auto* mullins = new kmaC_MullinsEffect;
+        for (int i = 0; i < levels; ++i) {
+            auto* outer = new kmaC_MullinsEffect;
+            mdl_Field const& list = *outer->Description().FindField("planarTests");
+            list.Type().Adopt(list.At(static_cast<void*>(outer)), mullins);
+            mullins = outer;
+        }
+        auto* rubber = new kmaC_Material;
+        rubber->mullinsEffect = mullins;
+        document.Materials().Insert("rubber", rubber);
+        // Head, materials, rubber and the outermost, then each list with the object in it.
+        if (4 + 2 * levels <= nga::jsonMaxDepth) {
+            Document again = Document::New("frame");
+            EXPECT_NO_THROW(ImportJson(again, ExportJson(document))) << levels;
+        } else {
+            EXPECT_EQ(ExportFailureOf(document).Place(), "documents['frame'].materials['rubber']")
+                << levels;
+        }
+    }
 }

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "DDB_NonGeometricAttributes.h"
+#include "nex_Exception.h"
 #include "nga_Error.h"
 #include "nga_Json.h"
+#include "nga_TextForm.h"
 #include "nga_Tree.h"
 
 namespace {
@@ -18,7 +21,8 @@ protected:
         nga::ImportJson(document,
                         "{\"materials\": {\"steel\": {\"description\": \"EN\", \"elastic\": "
                         "{\"type\": \"LAMINA\", \"table\": [[1, 2], [3, 4]], \"failStress\": {}}}, "
-                        "\"a].b[\": {}}, \"loadCases\": {\"wind\": {\"loads\": {\"it's\": 1.5}}}}");
+                        "\"a].b[\": {}}, \"loadCases\": {\"wind\": {\"loads\": {\"gust\": 1.5}}}}");
+        document.LoadCases().Get("wind").loads.Insert("it's", 1.5f);
     }
     std::string FailureOf(std::string const& path) {
         try {
@@ -61,6 +65,42 @@ TEST_F(Paths, LeadToObjectsValuesRowsCellsAndFactors) {
               "1.5\n");
     EXPECT_EQ(Resolve(document, "loadCases['wind'].loads[\"it's\"]").path,
               "documents['frame'].loadCases['wind'].loads['it\\'s']");
+}
+
+TEST_F(Paths, OnlyWhatAKeyLeadsToIsAnOptionOfItsOwner) {
+    int keyed = 0;
+    for (mdl_Description const* owner : nga::ClassesBelow(kmaC_MaterialOption::Description())) {
+        nga::DescribedObject object(owner->Create(), nga::DescribedDeleter{owner});
+        for (mdl_Field const* field : owner->AllFields()) {
+            if (field->Type().Kind() != mdl_FieldKind::Option) continue;
+            // The shortcut itself is the judge: it raises for a key that it does not know.
+            auto const& option = *static_cast<kmaC_MaterialOption const*>(object.get());
+            bool known = true;
+            try {
+                auto const& found =
+                    ddr_StepTraits<kmaC_MaterialOptionInMaterialOptionShortcut>::ConstGet(
+                        option, cow_String(field->Script()));
+                known = &found != &option;
+            } catch (nex_Exception const&) {
+                known = false;
+            }
+            std::string const step = nga::FieldStep(*owner, *field);
+            EXPECT_EQ(step, known ? ".options['" + std::string(field->Script()) + "']"
+                                  : "." + std::string(field->Script()))
+                << owner->Name();
+            keyed += known;
+        }
+    }
+    EXPECT_GT(keyed, 50);
+    auto const step = [](mdl_Description const& owner, char const* name) {
+        return nga::FieldStep(owner, *owner.FindField(name));
+    };
+    EXPECT_EQ(step(kmaC_JointedMaterial::Description(), "bulkFailure"), ".bulkFailure");
+    EXPECT_EQ(step(kmaC_Viscous::Description(), "potential"), ".potential");
+    EXPECT_EQ(step(kmaC_Material::Description(), "mullinsEffect"), ".mullinsEffect");
+    EXPECT_EQ(step(kmaC_Material::Description(), "foam"), ".options['crushableFoam']");
+    EXPECT_EQ(step(kmaC_Foam::Description(), "foamHardening"),
+              ".options['crushableFoamHardening']");
 }
 
 TEST_F(Paths, AnOptionIsReachedAsAnAttributeTooAndSaysItsOwnPath) {

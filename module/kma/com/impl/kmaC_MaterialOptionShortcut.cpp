@@ -1,5 +1,8 @@
 #include "kmaC_MaterialOptionShortcut.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "nex_TextException.h"
 #include "nex_TextTable.h"
 #include "omu_PrimValues.h"
@@ -254,6 +257,19 @@ cow_String OptionsStep(cow_String const& key) {
 }  // namespace
 
 atr_String kmaC_ShortcutErrorText(int code) { return nex_TextOfCode(kmaShortcutTexts, code); }
+
+bool kmaC_IsOptionKey(unsigned typeId, char const* key) {
+    cow_String const wanted(key);
+    if (typeId == kmaC_Material::TypeId())
+        return std::any_of(std::begin(kmaMaterialKeys), std::end(kmaMaterialKeys),
+                           [&](MaterialKey const& row) { return wanted == row.key; });
+    for (SuboptionCase const& row : kmaSuboptionCases)
+        if (row.parent == typeId)
+            return std::any_of(std::begin(row.keys), std::end(row.keys), [&](auto const& one) {
+                return one.get && wanted == one.constGetKey;
+            });
+    return false;
+}
 
 using InMaterial = ddr_StepTraits<kmaC_MaterialOptionInMaterialShortcut>;
 using InOption = ddr_StepTraits<kmaC_MaterialOptionInMaterialOptionShortcut>;

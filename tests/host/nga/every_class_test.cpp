@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include "host/cli/tool_runner.h"
+#include "nga_Document.h"
+#include "nga_Error.h"
+#include "nga_FieldLiterals.h"
+#include "nga_Json.h"
+#include "nga_Path.h"
+#include "nga_Start.h"
+#include "nga_TextForm.h"
+#include "nga_Tree.h"
+#include "support/FieldMutator.h"
+
+// Every class that a document can hold, with every field changed, through what a person uses: a
+// class that joins is tested without a new line here.
+
+namespace {
+
+using nga::Document;
+
+std::vector<mdl_Description const*> HeldClasses() {
+    nga::Start();
+    std::vector<mdl_Description const*> classes =
+        nga::ClassesBelow(kmaC_MaterialOption::Description());
+    classes.push_back(&kmaC_Material::Description());
+    classes.push_back(&klcC_LoadCase::Description());
+    return classes;
+}
+
+nga::DescribedObject Changed(mdl_Description const& description) {
+    nga::DescribedObject object(description.Create(), nga::DescribedDeleter{&description});
+    nga_test::MutateAll(description, object.get());
+    return object;
+}
+
+std::string TextOf(mdl_Description const& description, void const* object) {
+    nga::JsonWriter writer;
+    nga::Defaults defaults;
+    nga::WriteObject(writer, defaults, description, description, object, defaults.Of(description));
+    return writer.Take();
+}
+
+nga::DescribedObject Read(mdl_Description const& description, std::string const& text) {
+    return nga::ReadObject(nga::ParseJson(text), nga::JsonPlace(), description);
+}
+
+/// A document with one changed object of every class: options stand alone in a list, where any may
+/// stand, since no field of a material holds the sub-options.
+Document WithEveryClass() {
+    Document document = Document::New("every");
+    for (mdl_Description const* description : HeldClasses()) {
+        nga::DescribedObject object = Changed(*description);
+        cow_String const name(description->Name());
+        if (description == &kmaC_Material::Description()) {
+            document.Materials().Insert(name, static_cast<kmaC_Material*>(object.release()));
+        } else if (description == &klcC_LoadCase::Description()) {
+            document.LoadCases().Insert(name, static_cast<klcC_LoadCase*>(object.release()));
+        } else {
+            auto* mullins = new kmaC_MullinsEffect;
+            mdl_Field const& list = *mullins->Description().FindField("planarTests");
+            list.Type().Adopt(list.At(static_cast<void*>(mullins)), object.release());
+            auto* material = new kmaC_Material;
+            material->mullinsEffect = mullins;
+            document.Materials().Insert(name, material);
+        }
+    }
+    return document;
+}
+
+void ExpectSame(Document const& a, Document const& b) {
+    for (nga::Collection const* collection : nga::Collection::All()) {
+        EXPECT_EQ(collection->Size(a.Model()), collection->Size(b.Model()));
+        collection->Each(a.Model(), [&](cow_String const& key, void const* object) {
+            void const* other = collection->Find(b.Model(), key);
+            ASSERT_NE(other, nullptr) << key.View();
+            EXPECT_TRUE(collection->Held().Same(object, other)) << key.View();
+        });
+    }
+}
+
+void EveryPathLeadsBack(Document const& document, nga::TreeNode const& node,
+                        std::string const& owner) {
+    std::string const path = owner + node.step;
+    EXPECT_EQ(nga::Resolve(document, path).path, path);
+    for (nga::TreeNode const& child : node.children) EveryPathLeadsBack(document, child, path);
+}
+
+}  // namespace
+
+TEST(EveryClass, ComesBackTheSameFromItsTextWithEveryFieldChanged) {
+    std::vector<mdl_Description const*> const classes = HeldClasses();
+    EXPECT_EQ(classes.size(), 120u);
+    for (mdl_Description const* description : classes) {
+        nga::DescribedObject const object = Changed(*description);
+        std::string const text = TextOf(*description, object.get());
+        nga::DescribedObject const read = Read(*description, text);
+        EXPECT_TRUE(description->Same(object.get(), read.get())) << text;
+        EXPECT_EQ(TextOf(*description, read.get()), text);
+        for (mdl_Field const* field : description->AllFields()) {
+            nga::Defaults defaults;
+            bool const usual =
+                field->Type().Same(field->At(object.get()), field->At(defaults.Of(*description)));
+            bool const told =
+                text.find("\n  \"" + std::string(field->Script()) + "\": ") != std::string::npos;
+            EXPECT_NE(told, usual) << description->Name() << ' ' << field->Script();
+        }
+    }
+}
+
+TEST(EveryClass, ComesBackTheSameFromItsTextWithNoNumberSet) {
+    for (mdl_Description const* description : HeldClasses()) {
+        nga::DescribedObject const object(description->Create(),
+                                          nga::DescribedDeleter{description});
+        for (mdl_Field const* field : description->AllFields())
+            nga::SetNotSet(*field, field->At(object.get()));
+        std::string const text = TextOf(*description, object.get());
+        EXPECT_EQ(text.find("2147483647"), std::string::npos) << text;
+        EXPECT_EQ(text.find("e+308"), std::string::npos) << text;
+        EXPECT_TRUE(description->Same(object.get(), Read(*description, text).get())) << text;
+    }
+}
+
+TEST(EveryClass, ComesBackTheSameFromADocumentsText) {
+    Document const document = WithEveryClass();
+    std::string const text = nga::ExportJson(document);
+    Document again = Document::New("every");
+    nga::ImportJson(again, text);
+    ExpectSame(document, again);
+    EXPECT_EQ(nga::ExportJson(again), text);
+}
+
+TEST(EveryClass, ComesBackTheSameFromAFile) {
+    TemporaryFolder const folder;
+    Document document = WithEveryClass();
+    std::string const text = nga::ExportJson(document);
+    document.SaveAs(folder.Path("every.nga"));
+    Document const opened = Document::Open(folder.Path("every.nga"));
+    ExpectSame(document, opened);
+    EXPECT_EQ(nga::ExportJson(opened), text);
+}
+
+TEST(EveryClass, IsShownUnderAPathThatLeadsBackToIt) {
+    Document const document = WithEveryClass();
+    EveryPathLeadsBack(document, nga::BuildTree(document, nga::Resolve(document, "")), "");
+}
