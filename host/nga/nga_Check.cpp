@@ -1,6 +1,7 @@
 #include "nga_Check.h"
 
 #include "nex_Exception.h"
+#include "nga_Budget.h"
 #include "nga_Path.h"
 
 namespace nga {
@@ -12,13 +13,18 @@ namespace {
 class Recorder final : public mdl_RuleVisitor {
 public:
     /// What a collection holds under a name.
-    Recorder(std::vector<Finding>& findings, mdl_Description const& description, void const* object,
-             std::string const& path)
-        : m_findings(findings), m_description(description), m_object(object), m_path(path) {}
+    Recorder(std::vector<Finding>& findings, Budget& budget, mdl_Description const& description,
+             void const* object, std::string const& path)
+        : m_findings(findings),
+          m_budget(budget),
+          m_description(description),
+          m_object(object),
+          m_path(path) {}
     /// What a member of the owner holds.
     Recorder(Recorder const& owner, mdl_Description const& description, void const* object,
              void const* member, int index)
         : m_findings(owner.m_findings),
+          m_budget(owner.m_budget),
           m_description(description),
           m_object(object),
           m_owner(&owner),
@@ -43,6 +49,7 @@ protected:
     }
 
     void Object(void const* member, int index, void const* object, mdl_Asked how) override {
+        m_budget.Spend();
         mdl_Description const* description = mdl_Description::Find(how.dynTypeId(object));
         Recorder inner(*this, description ? *description : m_description, object, member, index);
         if (description && description->HasRules()) {
@@ -79,6 +86,7 @@ private:
     }
 
     std::vector<Finding>& m_findings;
+    Budget& m_budget;
     mdl_Description const& m_description;
     void const* m_object;
     std::string m_path;
@@ -93,12 +101,17 @@ private:
 std::vector<Finding> Check(Document const& document) {
     std::vector<Finding> findings;
     std::string const root = DocumentPath(document);
+    int named = 0;
+    for (Collection const* collection : Collection::All())
+        named += collection->Size(document.Model());
+    Budget budget(named);
     for (Collection const* collection : Collection::All())
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
             if (!description) return;
-            Recorder(findings, *description, object, EntryPath(root, *collection, key.View()))
+            Recorder(findings, budget, *description, object,
+                     EntryPath(root, *collection, key.View()))
                 .Run();
         });
     return findings;

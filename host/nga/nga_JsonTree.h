@@ -54,9 +54,6 @@ private:
     int m_index = -1;
 };
 
-/// How deep a text may nest.
-inline constexpr int jsonMaxDepth = 64;
-
 /// Reads a whole text. Raises an Error with line and place for a text that is no JSON, and for a
 /// duplicate key, a real number out of range, a nesting deeper than jsonMaxDepth and a text that is
 /// no UTF-8. The escape of bytes in texts and keys is undone.
