@@ -14,6 +14,8 @@ struct FileStamp {
 
     /// Of the file that the path leads to; a file that is not there has a stamp too.
     static FileStamp Of(std::string const& path);
+    /// Of an open file, by its descriptor.
+    static FileStamp OfOpen(int file);
 
     friend bool operator==(FileStamp const&, FileStamp const&) = default;
 };

@@ -38,6 +38,11 @@ FileStamp FileStamp::Of(std::string const& path) {
     return stat(path.c_str(), &state) == 0 ? StampOf(state) : FileStamp();
 }
 
+FileStamp FileStamp::OfOpen(int file) {
+    struct stat state;
+    return fstat(file, &state) == 0 ? StampOf(state) : FileStamp();
+}
+
 void RefuseJournals(std::string const& path) {
     for (char const* suffix : {"-journal", "-wal"}) {
         struct stat state;
@@ -80,9 +85,9 @@ SafeFile::SafeFile(std::string const& path) : m_path(path), m_target(path) {
     Make();
 }
 
-SafeFile::~SafeFile() {
-    if (!m_part.empty()) unlink(m_part.c_str());
-    if (m_file >= 0) close(m_file);
+SafeFile::Part::~Part() {
+    if (!path.empty()) unlink(path.c_str());
+    if (file >= 0) close(file);
 }
 
 void SafeFile::Fail(std::string const& what, int system) const {
@@ -95,23 +100,23 @@ void SafeFile::Make() {
     struct stat former;
     bool const replaces = m_former.exists && stat(m_target.c_str(), &former) == 0;
     for (int attempt = 0; attempt < attemptsAtMost; ++attempt) {
-        std::string const part = m_folder + "/" + PartPrefix() + std::to_string(getpid()) + "-" +
-                                 std::to_string(attempt) + partSuffix;
+        std::string part = m_folder + "/" + PartPrefix() + std::to_string(getpid()) + "-" +
+                           std::to_string(attempt) + partSuffix;
         // Nobody who may not read the former file is to see its successor grow.
         int const file =
             open(part.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, replaces ? 0600 : 0666);
         if (file < 0 && errno == EEXIST) continue;
         if (file < 0) Fail("no file can be made in its folder", errno);
-        m_file = file;
         struct stat state;
-        // Before the lock is taken, somebody may have held the file for a stale one.
-        if (flock(file, LOCK_EX | LOCK_NB) != 0 || fstat(file, &state) != 0 ||
-            state.st_nlink == 0) {
+        // Before the lock is taken, somebody may have held the file for a stale one. Where there
+        // are no locks, nobody can.
+        bool const held = flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+        if (held || fstat(file, &state) != 0 || state.st_nlink == 0) {
             close(file);
-            m_file = -1;
             continue;
         }
-        m_part = part;
+        m_part.path = std::move(part);
+        m_part.file = file;
         if (replaces) {
             // Only the superuser can give a file away; for others it stays their own.
             if (fchown(file, former.st_uid, former.st_gid) != 0) errno = 0;
@@ -141,21 +146,21 @@ void SafeFile::RemoveStale() const {
 }
 
 FileStamp SafeFile::Commit() {
-    if (fsync(m_file) != 0) Fail("writing it to the disk failed", errno);
+    if (fsync(m_part.file) != 0) Fail("writing it to the disk failed", errno);
     if (FileStamp::Of(m_target) != m_former)
         Fail("another program changed the file meanwhile; nothing was saved", 0);
     // A file that was not there must not lose its place to a newcomer of this very moment.
     int done = -1;
     if (!m_former.exists) {
-        done = renameat2(AT_FDCWD, m_part.c_str(), AT_FDCWD, m_target.c_str(), RENAME_NOREPLACE);
+        done =
+            renameat2(AT_FDCWD, m_part.path.c_str(), AT_FDCWD, m_target.c_str(), RENAME_NOREPLACE);
         if (done != 0 && errno == EEXIST)
             Fail("another program made the file meanwhile; nothing was saved", 0);
     }
-    if (done != 0 && std::rename(m_part.c_str(), m_target.c_str()) != 0)
+    if (done != 0 && std::rename(m_part.path.c_str(), m_target.c_str()) != 0)
         Fail("the new file cannot take its place", errno);
-    m_part.clear();
-    struct stat state;
-    FileStamp const stamp = fstat(m_file, &state) == 0 ? StampOf(state) : FileStamp();
+    m_part.path.clear();
+    FileStamp const stamp = FileStamp::OfOpen(m_part.file);
     int const folder = open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder >= 0) {
         int const synced = fsync(folder);

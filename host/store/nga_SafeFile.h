@@ -18,12 +18,11 @@ class SafeFile {
 public:
     /// Follows a symbolic link, so that the link stays and its target changes.
     explicit SafeFile(std::string const& path);
-    ~SafeFile();
     SafeFile(SafeFile const&) = delete;
     SafeFile& operator=(SafeFile const&) = delete;
 
     /// Where to write.
-    std::string const& PartPath() const { return m_part; }
+    std::string const& PartPath() const { return m_part.path; }
     /// The state of the file whose place is taken.
     FileStamp const& Former() const { return m_former; }
     /// Writes all to the disk and takes the target's place, provided that this is still as \ref
@@ -31,6 +30,17 @@ public:
     FileStamp Commit();
 
 private:
+    /// The file in the making; a member, so that it goes when the constructor fails as well.
+    struct Part {
+        std::string path;  ///< empty before it is made and after it took the target's place
+        int file = -1;
+
+        Part() = default;
+        ~Part();
+        Part(Part const&) = delete;
+        Part& operator=(Part const&) = delete;
+    };
+
     [[noreturn]] void Fail(std::string const& what, int system) const;
     void Make();
     void RemoveStale() const;
@@ -40,9 +50,8 @@ private:
     std::string m_target;  ///< behind all links
     std::string m_folder;
     std::string m_name;
-    std::string m_part;
     FileStamp m_former;
-    int m_file = -1;
+    Part m_part;
 };
 
 /// Raises unless no journal of another program lies beside the file, which would be played into it.

@@ -90,7 +90,7 @@ public:
         if (!S_ISREG(state.st_mode)) Fail("this is no file");
         Descriptor const file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
         if (file.Get() < 0) Fail(std::strerror(errno));
-        m_stamp = FileStamp::Of(path);
+        m_stamp = FileStamp::OfOpen(file.Get());
         if (m_stamp.size == 0) Fail("the file is empty, not a database");
         if (pread(file.Get(), m_header, headerSize, 0) != headerSize ||
             std::memcmp(m_header, magic, sizeof magic) != 0)

@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <cstring>
+#include <exception>
 #include <string>
 
 #include "nex_TextException.h"
@@ -521,19 +522,35 @@ cow_HandleBase const& rom_Reader::Object(unsigned typeId, int oid) {
         Fail("Row " + std::to_string(oid) + " of table " + table.name.Text() +
                  " is nested deeper than " + std::to_string(rom_Transporter::maxDepth) + " levels.",
              512);
+    // On every way out; a failure notes the place, innermost first.
     struct Reading {
+        rom_Reader& reader;
+        TableReader& table;
         TableReader::Entry& entry;
-        int& depth;
+        int oid;
+        int uncaught = std::uncaught_exceptions();
         ~Reading() {
             entry.reading = false;
-            --depth;
+            --reader.m_depth;
+            if (std::uncaught_exceptions() > uncaught) reader.NoteFailure(table, oid);
         }
-    } const reading{entry, ++m_depth};
+    };
+    ++m_depth;
+    Reading const reading{*this, table, entry, oid};
     entry.reading = true;
     cls_ReadVisitor const visitor(Open(&table, oid));
     entry.handle = std::make_unique<cow_ErasedHandle>(table.metadata->Ctor(visitor),
                                                       table.metadata->Destroyer());
     return *entry.handle;
+}
+
+void rom_Reader::NoteFailure(TableReader const& table, int oid) noexcept {
+    if (!m_failedAt.empty()) return;
+    try {
+        m_failedAt = "row " + std::to_string(oid) + " of table " + table.name.Text();
+    } catch (...) {
+        // Without memory the failure stands without its place.
+    }
 }
 
 cow_HandleBase const& rom_Reader::MapElement(unsigned typeId, int oid, cow_String const& field,

@@ -21,6 +21,9 @@ public:
     cow_HandleBase const& MapElement(unsigned typeId, int oid, cow_String const& field,
                                      cow_String const& key, unsigned elementTypeId);
 
+    /// The row of the innermost object whose reading failed; empty if none did.
+    std::string const& FailedAt() const { return m_failedAt; }
+
 private:
     class Memento;
     struct Range;
@@ -62,6 +65,7 @@ private:
         char const* text;
     };
 
+    void NoteFailure(TableReader const& table, int oid) noexcept;
     TableReader& TableFor(unsigned typeId);
     /// A memento over a row; without a table, one over nothing, whose reads give their defaults.
     Memento* Open(TableReader* table, int oid);
@@ -79,4 +83,5 @@ private:
     std::size_t m_mementosMade = 0;
     cow_ErasedHandle m_null;
     int m_depth = 0;
+    std::string m_failedAt;
 };

@@ -41,6 +41,10 @@ cow_ErasedHandle rom_Transporter::ReadMapElement(unsigned typeId, int oid, cow_S
         m_reader->MapElement(typeId, oid, field, key, elementTypeId));
 }
 
+std::string rom_Transporter::FailedAt() const {
+    return m_reader ? m_reader->FailedAt() : std::string();
+}
+
 void rom_Transporter::Forget() {
     m_writer.reset();
     m_reader.reset();

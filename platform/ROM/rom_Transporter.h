@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "cls_ClassRegistrar.h"
 #include "cow_ErasedHandle.h"
@@ -64,6 +65,9 @@ public:
     /// A null handle if the map has no such key.
     cow_ErasedHandle ReadMapElement(unsigned typeId, int oid, cow_String const& field,
                                     cow_String const& key, unsigned elementTypeId);
+    /// Where the last read failed: "row 3 of table X". Failures that a class itself raises (an
+    /// unknown literal) do not know it. Empty if none failed.
+    std::string FailedAt() const;
     /// Forgets what was written and read, so that the next write or read starts anew.
     void Forget();
 

@@ -83,13 +83,20 @@ public:
     explicit Agent(rom_Writer& writer) : m_writer(writer) {}
 
     // Where this agent's row is to be referred to from.
-    void BeRoot() { Reset(Place::Root, nullptr, 0); }
+    void BeRoot() {
+        Reset(Place::Root, nullptr, 0);
+        m_level = 1;
+    }
     void BeBase(Agent* parent) { Reset(Place::Base, parent, parent->m_table->baseColumn); }
-    void BeField(Agent* parent, int column, cls_CollectionType declared) {
+    void BeField(Agent* parent, int column, cls_CollectionType declared, bool byHandle) {
         Reset(Place::Field, parent, column);
         m_declared = declared;
+        if (byHandle) ++m_level;
     }
-    void BeElement(Agent* parent, int index) { Reset(Place::Element, parent, index); }
+    void BeElement(Agent* parent, int index) {
+        Reset(Place::Element, parent, index);
+        ++m_level;
+    }
 
     void WriteNull(cls_FieldHandle const& field) override {
         int const column = m_table->Column(field);
@@ -145,6 +152,10 @@ public:
     int StartWrite(unsigned typeId, cls_Uid const& uid) override {
         if (m_writer.m_failure) std::rethrow_exception(m_writer.m_failure);
         m_table = &m_writer.TableFor(typeId);
+        // What could not be read back is not written.
+        if (m_level > rom_Transporter::maxDepth)
+            Fail("An object of class %s is nested deeper than can be stored.",
+                 m_table->layout.Name(), 135);
         m_uid = uid;
         m_values.assign(m_table->layout.Columns().size(), rfm_Value());
         bool isNew;
@@ -173,11 +184,12 @@ public:
         agent->BeBase(this);
         return agent;
     }
-    cls_WriteAgent* FieldAgent(cls_FieldHandle const& field, cow_HandleBase const*) override {
+    cls_WriteAgent* FieldAgent(cls_FieldHandle const& field,
+                               cow_HandleBase const* handle) override {
         std::size_t const attribute = static_cast<std::size_t>(m_table->Attribute(field));
         Agent* const agent = m_writer.Next();
         agent->BeField(this, m_table->columnOfField[attribute],
-                       m_table->metadata->Attributes()[attribute].collection);
+                       m_table->metadata->Attributes()[attribute].collection, handle != nullptr);
         return agent;
     }
 
@@ -207,6 +219,7 @@ private:
         m_place = place;
         m_parent = parent;
         m_column = column;
+        m_level = parent ? parent->m_level : 0;
         m_table = nullptr;
         m_started = false;
         m_repeatedOid = -1;
@@ -348,6 +361,7 @@ private:
     rom_Writer& m_writer;
     Place m_place = Place::Root;
     Agent* m_parent = nullptr;
+    int m_level = 0;   // how many objects hold this one, itself included
     int m_column = 0;  // of the reference in the parent's row, or the element's index
     TableWriter* m_table = nullptr;
     cls_Uid m_uid;

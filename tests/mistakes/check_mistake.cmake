@@ -1,16 +1,17 @@
 # Compiles one mistake and holds the compiler's errors against what a reader should be told.
-# COMPILER, INCLUDES (separated by |), SOURCE, MISTAKE, MESSAGE (a regular expression).
+# COMPILER, INCLUDES (separated by |), SOURCE, MISTAKE, MESSAGE (a regular expression). The
+# mistake NONE compiles.
 string(REPLACE "|" ";" includes "${INCLUDES}")
 list(TRANSFORM includes PREPEND "-I")
 set(define)
-if(MISTAKE)
+if(NOT MISTAKE STREQUAL "NONE")
   set(define "-DMISTAKE_${MISTAKE}")
 endif()
 execute_process(
   COMMAND ${COMPILER} -std=c++20 -fsyntax-only -Wno-invalid-offsetof -fdiagnostics-color=never
           ${includes} ${define} ${SOURCE}
   RESULT_VARIABLE result ERROR_VARIABLE output)
-if(NOT MISTAKE)
+if(MISTAKE STREQUAL "NONE")
   if(NOT result EQUAL 0)
     message(FATAL_ERROR "without a mistake it does not compile:\n${output}")
   endif()

@@ -14,7 +14,7 @@ public:
 #elif defined MISTAKE_UNSUPPORTED_TYPE_UNSCRIPTED
     DD_FIELD_UNSCRIPTED(float, limit)
 #elif defined MISTAKE_UNTABLED_ENUM
-    enum class Untabled : unsigned { ONE };
+    enum class Untabled : unsigned{ONE};
     DD_FIELD(Untabled, kind)
 #elif defined MISTAKE_UNDESCRIBED_OPTION
     DD_OPTION(cow_String, text)

@@ -47,7 +47,8 @@ protected:
     }
 
     /// Runs the work with its first allocation failing, then its second, and so on until it gets
-    /// through; after each failure \p check must hold. Gives how many failures there were.
+    /// through; after each failure \p check must hold, and what is left over is let go there. Gives
+    /// how many failures there were.
     template <class Work, class Check>
     int FailEach(Work work, Check check) {
         work();  // what is made once in a process is made here
@@ -62,9 +63,9 @@ protected:
             }
             bool const reached = allocationsLeft < 0;
             allocationsLeft = -1;
-            EXPECT_EQ(liveBlocks, before) << "allocation " << failing;
             EXPECT_EQ(failed, reached) << "allocation " << failing;
             check();
+            EXPECT_EQ(liveBlocks, before) << "allocation " << failing;
             if (!failed || testing::Test::HasFailure()) return failing;
         }
     }

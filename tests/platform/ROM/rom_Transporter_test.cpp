@@ -9,6 +9,8 @@
 
 namespace {
 
+using Element = cow_ArrayCOW<kmaC_MaterialOption, cow_Virtual<kmaC_MaterialOption>>;
+
 // Database: the domain that a model's file is written and read under.
 class Transporter : public testing::Test {
 protected:
@@ -201,6 +203,59 @@ TEST_F(Transporter, AStoredNumberOutsideTheTableIsRefusedAndNothingIsHalfWritten
               "COUPLED_TRACTION, SHORT_FIBER");
     EXPECT_EQ(m_database.FindTable(kmaC_Elastic::TypeId()), nullptr);
     EXPECT_EQ(m_database.FindTable(kmaC_Material::TypeId()), nullptr);
+}
+
+TEST_F(Transporter, NamesTheRowOfALiteralThatIsNone) {
+    kmaC_Material const material = Steel();
+    rom_Transporter(m_database, *m_registrar).Write(&material, material.DynTypeId());
+    Poke(kmaC_Elastic::TypeId(), 0, "type", rfm_Value::OfText("ISOTROPY", 8));
+    rom_Transporter in(m_database, *m_registrar);
+    EXPECT_THROW(in.Read(kmaC_Material::TypeId(), 0), omu_ValueErrorException);
+    EXPECT_EQ(in.FailedAt(), "row 0 of table kmaC_Elastic");
+}
+
+TEST_F(Transporter, RefusesACircleOfReferences) {
+    kmaC_MullinsEffect outer;
+    outer.uniaxialTests.Append(Element(new kmaC_MullinsEffect));
+    rom_Transporter(m_database, *m_registrar).Write(&outer, outer.DynTypeId());
+    // The inner one is complete first, so it is row 0; its element becomes the outer one.
+    Poke(rom_Layout::listEntryTypeId, 0, "value#OID", rfm_Value::OfInt(1));
+    rom_Transporter in(m_database, *m_registrar);
+    EXPECT_EQ(MessageOf([&] { in.Read(kmaC_MullinsEffect::TypeId(), 1); }),
+              "Row 1 of table kmaC_MullinsEffect is part of a circle of references.");
+}
+
+TEST_F(Transporter, WritesAndReadsUpToOneDepthAndRefusesBeyondItBothWays) {
+    auto const nested = [](int levels) {
+        kmaC_MullinsEffect effect;
+        for (int i = 1; i < levels; ++i) {
+            kmaC_MullinsEffect outer;
+            outer.uniaxialTests.Append(Element(effect.Copy()));
+            effect = outer;
+        }
+        return effect;
+    };
+    kmaC_MullinsEffect const deepest = nested(rom_Transporter::maxDepth);
+    int const row = rom_Transporter(m_database, *m_registrar).Write(&deepest, deepest.DynTypeId());
+    {
+        rom_Transporter in(m_database, *m_registrar);
+        cow_ErasedHandle const read = in.Read(kmaC_MullinsEffect::TypeId(), row);
+        EXPECT_TRUE(kmaC_MullinsEffect::Description().Same(&deepest, read.ErasedReferent()));
+    }
+    kmaC_MullinsEffect const deeper = nested(rom_Transporter::maxDepth + 1);
+    rfm_MemoryDatabase other;
+    EXPECT_EQ(
+        MessageOf([&] { rom_Transporter(other, *m_registrar).Write(&deeper, deeper.DynTypeId()); }),
+        "An object of class kmaC_MullinsEffect is nested deeper than can be stored.");
+    // A store that holds one more level all the same: the outermost row refers to itself's parent.
+    kmaC_MullinsEffect outer;
+    outer.uniaxialTests.Append(Element(new kmaC_MullinsEffect));
+    int const top = rom_Transporter(m_database, *m_registrar).Write(&outer, outer.DynTypeId());
+    rfm_Table& entries = *m_database.FindTable(rom_Layout::listEntryTypeId);
+    Poke(rom_Layout::listEntryTypeId, entries.RowCount() - 1, "value#OID", rfm_Value::OfInt(row));
+    rom_Transporter in(m_database, *m_registrar);
+    EXPECT_EQ(MessageOf([&] { in.Read(kmaC_MullinsEffect::TypeId(), top); }),
+              "Row 0 of table kmaC_MullinsEffect is nested deeper than 64 levels.");
 }
 
 }  // namespace
