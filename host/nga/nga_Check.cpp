@@ -4,6 +4,7 @@
 
 #include "cls_xp.h"
 #include "nex_Exception.h"
+#include "nga_Budget.h"
 #include "nga_Names.h"
 #include "nga_Path.h"
 
@@ -11,14 +12,23 @@ namespace nga {
 
 namespace {
 
+/// For a walk over everything that the document holds.
+Budget BudgetOf(Document const& document) {
+    int named = 0;
+    for (Collection const* collection : Collection::All())
+        named += collection->Size(document.Model());
+    return Budget(named);
+}
+
 /// Records instead of raising. One for each object on the way down; it knows by which member its
 /// owner holds it, and that is spelled out as a path only where something failed.
 class Recorder final : public mdl_RuleVisitor {
 public:
     /// What a collection holds under a name.
-    Recorder(std::vector<Finding>& findings, CheckDepth depth, mdl_Description const& description,
-             void const* object, std::string const& path)
+    Recorder(std::vector<Finding>& findings, Budget& budget, CheckDepth depth,
+             mdl_Description const& description, void const* object, std::string const& path)
         : m_findings(findings),
+          m_budget(budget),
           m_depth(depth),
           m_description(description),
           m_object(object),
@@ -27,6 +37,7 @@ public:
     Recorder(Recorder const& owner, bool note, mdl_Description const& description,
              void const* object, void const* member, int index)
         : m_findings(owner.m_findings),
+          m_budget(owner.m_budget),
           m_depth(owner.m_depth),
           m_note(note),
           m_description(description),
@@ -54,6 +65,7 @@ protected:
     }
 
     void Object(void const* member, int index, void const* object, mdl_Asked how) override {
+        m_budget.Spend();
         mdl_Description const* description = mdl_Description::Find(how.dynTypeId(object));
         if (m_depth == CheckDepth::All) m_asked.emplace(member, index);
         Recorder inner(*this, m_note, description ? *description : m_description, object, member,
@@ -88,6 +100,7 @@ private:
                 mdl_Description const* description =
                     object ? mdl_Description::Find(type.DynTypeIdOf(object)) : nullptr;
                 if (!description || m_asked.count({at, i}) != 0) continue;
+                m_budget.Spend();
                 Recorder(*this, true, *description, object, at, i).Run();
             }
         }
@@ -108,6 +121,7 @@ private:
     }
 
     std::vector<Finding>& m_findings;
+    Budget& m_budget;
     CheckDepth m_depth;
     bool m_note = false;
     mdl_Description const& m_description;
@@ -121,8 +135,9 @@ private:
     std::set<std::pair<void const*, int>> m_asked;
 };
 
-void AddUnusable(std::vector<std::string>& paths, mdl_Description const& description,
-                 void const* object, std::string const& path) {
+void AddUnusable(std::vector<std::string>& paths, Budget& budget,
+                 mdl_Description const& description, void const* object, std::string const& path) {
+    budget.Spend();
     for (mdl_Field const* field : description.AllFields()) {
         mdl_FieldType const& type = field->Type();
         void const* const at = field->At(object);
@@ -142,7 +157,7 @@ void AddUnusable(std::vector<std::string>& paths, mdl_Description const& descrip
             mdl_Description const* inner =
                 held ? mdl_Description::Find(type.DynTypeIdOf(held)) : nullptr;
             if (inner)
-                AddUnusable(paths, *inner, held,
+                AddUnusable(paths, budget, *inner, held,
                             path + FieldStep(description, *field) + (list ? IndexStep(i) : ""));
         }
     }
@@ -152,6 +167,7 @@ void AddUnusable(std::vector<std::string>& paths, mdl_Description const& descrip
 
 std::vector<std::string> UnusableNames(Document const& document) {
     std::vector<std::string> paths;
+    Budget budget = BudgetOf(document);
     std::string const root = DocumentPath(document);
     for (Collection const* collection : Collection::All())
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
@@ -159,7 +175,7 @@ std::vector<std::string> UnusableNames(Document const& document) {
             if (!IsUsableName(key.View())) paths.push_back(path);
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
-            if (description) AddUnusable(paths, *description, object, path);
+            if (description) AddUnusable(paths, budget, *description, object, path);
         });
     return paths;
 }
@@ -167,19 +183,21 @@ std::vector<std::string> UnusableNames(Document const& document) {
 std::vector<Finding> Check(mdl_Description const& description, void const* object,
                            std::string const& path, CheckDepth depth) {
     std::vector<Finding> findings;
-    Recorder(findings, depth, description, object, path).Run();
+    Budget budget;
+    Recorder(findings, budget, depth, description, object, path).Run();
     return findings;
 }
 
 std::vector<Finding> Check(Document const& document, CheckDepth depth) {
     std::vector<Finding> findings;
     std::string const root = DocumentPath(document);
+    Budget budget = BudgetOf(document);
     for (Collection const* collection : Collection::All())
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
             if (!description) return;
-            Recorder(findings, depth, *description, object,
+            Recorder(findings, budget, depth, *description, object,
                      EntryPath(root, *collection, key.View()))
                 .Run();
         });

@@ -121,8 +121,11 @@ std::vector<Imported> ImportJson(Document& document, std::string_view text, OnCo
 }
 
 std::string ExportJson(Document const& document) {
+    int named = 0;
+    for (Collection const* collection : Collection::All())
+        named += collection->Size(document.Model());
     JsonWriter writer;
-    Defaults defaults;
+    Defaults defaults(named);
     std::string const root = DocumentPath(document);
     writer.BeginObject();
     writer.Key("nga");

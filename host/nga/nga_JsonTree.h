@@ -63,9 +63,6 @@ private:
     bool m_isEntry = false;
 };
 
-/// How deep a text may nest.
-inline constexpr int jsonMaxDepth = 64;
-
 /// Reads a whole text. Raises an Error with line and place for a text that is no JSON, and for a
 /// duplicate key, a real number out of range, a nesting deeper than jsonMaxDepth and a text that is
 /// no UTF-8. The escape of bytes in texts and keys is undone. Places take the text for a document:

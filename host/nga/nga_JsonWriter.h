@@ -6,6 +6,9 @@
 
 namespace nga {
 
+/// How deep a text may nest, read or written.
+inline constexpr int jsonMaxDepth = 64;
+
 /// Writes JSON text. Reals are the shortest text that reads back as the same number, and always
 /// look like reals; NaN and the infinities are strings, a NaN other than the usual one with its
 /// bits ("NaN:fff8000000000000"). Texts that are no UTF-8 are escaped reversibly: a byte that

@@ -1,7 +1,5 @@
 #include "nga_TextForm.h"
 
-#include <cstring>
-
 #include "cls_MetadataRegistrar.h"
 #include "cls_xp.h"
 #include "nga_FieldLiterals.h"
@@ -18,6 +16,15 @@ void const* Defaults::Of(mdl_Description const& description) {
                              DescribedObject(description.Create(), DescribedDeleter{&description}))
                     .first;
     return found->second.get();
+}
+
+std::string const& Defaults::ClassOf(mdl_Description const& description,
+                                     mdl_Description const& declared) {
+    auto const key = std::make_pair(description.TypeId(), declared.TypeId());
+    auto found = m_classes.find(key);
+    if (found == m_classes.end())
+        found = m_classes.emplace(key, ClassText(description, declared)).first;
+    return found->second;
 }
 
 bool IsTable(mdl_Description const& description) {
@@ -40,17 +47,34 @@ mdl_Field const& CellsOf(mdl_Description const& table) {
     return *fields[i];
 }
 
-std::vector<mdl_Description const*> ClassesBelow(mdl_Description const& declared) {
-    std::vector<mdl_Description const*> classes;
-    cls_ClassRegistrar const& registrar =
-        omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
-    for (cls_ClassMetadata const* metadata : registrar.Classes()) {
+std::vector<NamedClass> const& ClassesBelow(mdl_Description const& declared) {
+    struct Known {
+        std::size_t registered = 0;
+        std::vector<NamedClass> classes;
+    };
+    // Asked for each object of a list, and the same until a class is registered.
+    thread_local std::map<unsigned, Known> cache;
+    std::vector<cls_ClassMetadata const*> const registered =
+        omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase).Classes();
+    Known& known = cache[declared.TypeId()];
+    if (known.registered == registered.size()) return known.classes;
+    std::map<std::string, int> bearers;
+    std::vector<NamedClass> classes;
+    for (cls_ClassMetadata const* metadata : registered) {
         mdl_Description const* description = mdl_Description::Find(metadata->TypeId());
         if (!description || description->IsAbstract()) continue;
-        for (mdl_Description const* level = description; level; level = level->Base())
-            if (level == &declared) classes.push_back(description);
+        for (mdl_Description const* level = description; level; level = level->Base()) {
+            if (level != &declared) continue;
+            char const* const constructor = description->Constructor();
+            classes.push_back({description, constructor ? constructor : description->Name()});
+            ++bearers[classes.back().text];
+        }
     }
-    return classes;
+    for (NamedClass& named : classes)
+        if (bearers[named.text] > 1) named.text = named.description->Name();
+    known.classes = std::move(classes);
+    known.registered = registered.size();
+    return known.classes;
 }
 
 std::vector<std::string> ScriptNames(mdl_Description const& description) {
@@ -60,12 +84,9 @@ std::vector<std::string> ScriptNames(mdl_Description const& description) {
 }
 
 std::string ClassText(mdl_Description const& description, mdl_Description const& declared) {
-    if (!description.Constructor()) return description.Name();
-    for (mdl_Description const* other : ClassesBelow(declared))
-        if (other != &description && other->Constructor() &&
-            std::strcmp(other->Constructor(), description.Constructor()) == 0)
-            return description.Name();
-    return description.Constructor();
+    for (NamedClass const& known : ClassesBelow(declared))
+        if (known.description == &description) return known.text;
+    return description.Name();
 }
 
 namespace {
@@ -233,6 +254,7 @@ void WriteField(JsonWriter& writer, Defaults& defaults, mdl_Field const& field, 
 
 void WriteObject(JsonWriter& writer, Defaults& defaults, mdl_Description const& declared,
                  mdl_Description const& description, void const* object, void const* usual) {
+    defaults.budget.Spend();
     if (IsTable(description) && &declared == &description) {
         WriteTable(writer, description, object, usual);
         return;
@@ -240,7 +262,7 @@ void WriteObject(JsonWriter& writer, Defaults& defaults, mdl_Description const& 
     writer.BeginObject();
     if (&declared != &description) {
         writer.Key("class");
-        writer.String(ClassText(description, declared));
+        writer.String(defaults.ClassOf(description, declared));
     }
     for (mdl_Field const* field : description.AllFields()) {
         void const* const at = field->At(object);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "mdl_Description.h"
+#include "nga_Budget.h"
 #include "nga_JsonTree.h"
 #include "nga_JsonWriter.h"
 
@@ -27,10 +28,17 @@ using DescribedObject = std::unique_ptr<void, DescribedDeleter>;
 /// for, and gone with this.
 class Defaults {
 public:
+    /// For texts of so many named objects.
+    explicit Defaults(int named = 0) : budget(named) {}
     void const* Of(mdl_Description const& description);
+    /// ClassText, remembered: a list may hold a million objects of one class.
+    std::string const& ClassOf(mdl_Description const& description, mdl_Description const& declared);
+
+    Budget budget;
 
 private:
     std::map<unsigned, DescribedObject> m_objects;
+    std::map<std::pair<unsigned, unsigned>, std::string> m_classes;
 };
 
 /// Whether the class is a table: an array of cells that scripts know by its owner's field, with
@@ -58,7 +66,13 @@ DescribedObject ReadObject(JsonNode const& node, JsonPlace const& place,
 
 /// The names of all fields that a script can give, for messages.
 std::vector<std::string> ScriptNames(mdl_Description const& description);
-/// All concrete classes that a place of the declared class can hold.
-std::vector<mdl_Description const*> ClassesBelow(mdl_Description const& declared);
+
+/// A class and what it is called in a place that can hold several.
+struct NamedClass {
+    mdl_Description const* description;
+    std::string text;
+};
+/// All concrete classes that a place of the declared class can hold. Good until the next call.
+std::vector<NamedClass> const& ClassesBelow(mdl_Description const& declared);
 
 }  // namespace nga

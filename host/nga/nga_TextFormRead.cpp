@@ -317,15 +317,17 @@ mdl_Description const& ClassOf(JsonNode const& node, JsonPlace const& place,
     JsonNode const* named = node.Find("class");
     if (named && declared.FindScript("class")) named = nullptr;
     if (!named && !declared.IsAbstract()) return declared;
-    std::vector<mdl_Description const*> const classes = ClassesBelow(declared);
+    std::vector<NamedClass> const& classes = ClassesBelow(declared);
+    if (named)
+        for (NamedClass const& known : classes)
+            if (named->text == known.text || named->text == known.description->Name())
+                return *known.description;
     std::vector<std::string> names;
-    for (mdl_Description const* known : classes) names.push_back(ClassText(*known, declared));
+    for (NamedClass const& known : classes) names.push_back(known.text);
     std::string const expected = OneOf(names);
     if (!named) Refuse(node, place, "the object's \"class\" is missing", expected);
     JsonPlace const namedPlace(place, "class");
     Require(*named, namedPlace, Kind::String, expected.c_str());
-    for (std::size_t i = 0; i < classes.size(); ++i)
-        if (named->text == names[i] || named->text == classes[i]->Name()) return *classes[i];
     Refuse(*named, namedPlace, "unknown class" + DidYouMean(named->text, names), expected);
 }
 

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "cls_xp.h"
+#include "nga_Budget.h"
 #include "nga_FieldLiterals.h"
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
@@ -67,7 +68,9 @@ std::string Summary(mdl_Description const& description, void const* object) {
     return summary;
 }
 
-TreeNode NodeOf(std::string const& step, mdl_Description const& description, void const* object) {
+TreeNode NodeOf(Budget& budget, std::string const& step, mdl_Description const& description,
+                void const* object) {
+    budget.Spend();
     TreeNode node{step, description.Name(), Summary(description, object), {}};
     for (mdl_Field const* field : description.AllFields()) {
         mdl_FieldType const& type = field->Type();
@@ -81,19 +84,22 @@ TreeNode NodeOf(std::string const& step, mdl_Description const& description, voi
             mdl_Description const* inner =
                 held ? mdl_Description::Find(type.DynTypeIdOf(held)) : nullptr;
             if (inner)
-                node.children.push_back(NodeOf(
-                    FieldStep(description, *field) + (list ? IndexStep(i) : ""), *inner, held));
+                node.children.push_back(
+                    NodeOf(budget, FieldStep(description, *field) + (list ? IndexStep(i) : ""),
+                           *inner, held));
         }
     }
     return node;
 }
 
 TreeNode NodeOf(Document const& document, std::string const& step, Collection const& collection) {
+    Budget budget(collection.Size(document.Model()));
     TreeNode node{step, std::string(), Counted(collection.Size(document.Model()), "object"), {}};
     collection.Each(document.Model(), [&](cow_String const& key, void const* object) {
         mdl_Description const* description =
             object ? mdl_Description::Find(collection.DynTypeIdOf(object)) : nullptr;
-        if (description) node.children.push_back(NodeOf(KeyStep(key.View()), *description, object));
+        if (description)
+            node.children.push_back(NodeOf(budget, KeyStep(key.View()), *description, object));
     });
     return node;
 }
@@ -134,8 +140,10 @@ void AddJson(JsonWriter& writer, TreeNode const& node, std::string const& owner)
 }  // namespace
 
 TreeNode BuildTree(Document const& document, Selection const& from) {
-    if (from.what == Selection::What::Object)
-        return NodeOf(from.path, *from.description, from.object);
+    if (from.what == Selection::What::Object) {
+        Budget budget;
+        return NodeOf(budget, from.path, *from.description, from.object);
+    }
     if (from.what == Selection::What::Collection)
         return NodeOf(document, from.path, *from.collection);
     TreeNode root{from.path, std::string(), std::string(), {}};

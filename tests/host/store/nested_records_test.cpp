@@ -90,8 +90,7 @@ TEST_F(NestedRecords, AreReadUpToTheLimit) {
     EXPECT_THROW(Chain(65), nex_TextException);
     // No file of ours is deeper, so one link more is put before the others by hand.
     std::string const path = Chain(64);
-    Sql(path,
-        "INSERT INTO Link(\"##OID\",\"next#ClassID\",\"next#OID\") VALUES(64,0x3E80001,63)");
+    Sql(path, "INSERT INTO Link(\"##OID\",\"next#ClassID\",\"next#OID\") VALUES(64,0x3E80001,63)");
     EXPECT_NE(Read(path, 64).find("nested deeper than 64 levels"), std::string::npos);
 }
 

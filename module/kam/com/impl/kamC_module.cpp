@@ -15,6 +15,4 @@ void kamC_initialize(int& count) {
     typ_ArchCompTable::InsertEntry(kamC_component, kamC_ArchEntry());
 }
 
-void kamC_finalize(int& count) {
-    kamGuard.Lower(count);
-}
+void kamC_finalize(int& count) { kamGuard.Lower(count); }

@@ -15,6 +15,4 @@ void kbpC_initialize(int& count) {
     typ_ArchCompTable::InsertEntry(kbpC_component, kbpC_ArchEntry());
 }
 
-void kbpC_finalize(int& count) {
-    kbpGuard.Lower(count);
-}
+void kbpC_finalize(int& count) { kbpGuard.Lower(count); }

@@ -15,8 +15,6 @@ void kflC_initialize(int& count) {
     typ_ArchCompTable::InsertEntry(kflC_component, kflC_ArchEntry());
 }
 
-void kflC_finalize(int& count) {
-    kflGuard.Lower(count);
-}
+void kflC_finalize(int& count) { kflGuard.Lower(count); }
 
 void kflC_formalize() {}
