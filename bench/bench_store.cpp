@@ -482,7 +482,7 @@ std::unique_ptr<ddr_Model> LoadByHand(Layout const& layout, std::string const& p
     return model;
 }
 
-std::unique_ptr<kmaC_Material> ReadNamedByHand(Layout const& layout, std::string const& path,
+kmaC_MaterialContainer::Handle ReadNamedByHand(Layout const& layout, std::string const& path,
                                                cow_String const& name) {
     Database const database(path, SQLITE_OPEN_READONLY);
     database.Run("BEGIN");
@@ -500,7 +500,7 @@ std::unique_ptr<kmaC_Material> ReadNamedByHand(Layout const& layout, std::string
         sqlite3_finalize(find);
     }
     HandReader reader(database, layout);
-    return std::unique_ptr<kmaC_Material>(reader.Material(material));
+    return kmaC_MaterialContainer::Handle(reader.Material(material));
 }
 
 // ---- the rows --------------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 
@@ -179,10 +180,16 @@ TEST_F(SavedFile, IsWholeWhenTheSaverIsKilledAtAnyMoment) {
     std::string const path = folder.File("m.nga");
     auto const small = MakeModel(3);
     auto const large = MakeModel(400);
+    // The moments spread over three rounds of saving, however fast this machine is.
+    auto const begin = std::chrono::steady_clock::now();
+    nga::SaveModel(*large, path);
     nga::SaveModel(*small, path);
+    auto const round = std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::steady_clock::now() - begin);
+    auto const moments = static_cast<unsigned>(3 * round.count());
     std::mt19937 random(7);
     int sizes[2] = {0, 0};
-    for (int round = 0; round < 200; ++round) {
+    for (int kills = 0; kills < 200; ++kills) {
         pid_t const child = fork();
         if (child == 0) {
             try {
@@ -194,7 +201,7 @@ TEST_F(SavedFile, IsWholeWhenTheSaverIsKilledAtAnyMoment) {
             }
             _exit(1);
         }
-        usleep(static_cast<useconds_t>(random() % 60000));
+        usleep(static_cast<useconds_t>(random() % moments));
         kill(child, SIGKILL);
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);

@@ -79,8 +79,8 @@ TEST_F(StoredModel, GivesOneMaterialByItsName) {
         cow_ErasedHandle const found =
             nga::ReadNamed(path, repository, cow_String("m17"), kmaC_Material::TypeId());
         ASSERT_FALSE(found.IsNull());
-        std::unique_ptr<kmaC_Material> const made(MakeMaterial(17));
-        EXPECT_TRUE(kmaC_Material::Description().Same(found.ErasedReferent(), made.get()));
+        kmaC_MaterialContainer::Handle const made(MakeMaterial(17));
+        EXPECT_TRUE(kmaC_Material::Description().Same(found.ErasedReferent(), made.GetPtr()));
     }
     EXPECT_TRUE(
         nga::ReadNamed(path, repository, cow_String("m50"), kmaC_Material::TypeId()).IsNull());
@@ -90,10 +90,10 @@ TEST_F(StoredModel, GivesOneMaterialByItsName) {
 TEST_F(StoredModel, KeepsWhatIsSharedOneObject) {
     std::string const path = folder.File("m.nga");
     ddr_Model model(cow_String("m"));
-    std::unique_ptr<kmaC_Material> const steel(MakeMaterial(1));
-    Materials(model).Insert("a", *steel);
-    Materials(model).Insert("b", *steel);
-    kmaC_Material other(*steel);
+    kmaC_MaterialContainer::Handle const steel(MakeMaterial(1));
+    Materials(model).Insert("a", steel.ConstGet());
+    Materials(model).Insert("b", steel.ConstGet());
+    kmaC_Material other(steel.ConstGet());
     other.uid.NewUid();
     Materials(model).Insert("c", other);
     nga::SaveModel(model, path);
