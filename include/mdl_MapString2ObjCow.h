@@ -80,7 +80,7 @@ public:
     }
     Tree const& ConstGetMap() const { return m_map; }
     void Clear() {
-        m_keysDirty = true;  // until the cache is empty too
+        m_keysDirty = true;  // until the cache is empty too, which may fail for want of memory
         m_map.cow_Btree<cow_String, Handle>::operator=(cow_Btree<cow_String, Handle>());
         m_keys.Resize(0);
         m_keysDirty = false;

@@ -7,6 +7,7 @@
 #include "DDB_NonGeometricAttributes.h"
 #include "support/ChangeRecords.h"
 #include "support/FieldMutator.h"
+#include "support/Owned.h"
 
 // Every allocation of a piece of work is made to fail, one after another: those of the library's
 // own allocator and those of the standard library. The sanitizers then see what is not given back.
@@ -93,7 +94,7 @@ TEST_F(AllocationFailure, OfADeepCopyLeavesTheSourceAndNothingElse) {
     kmaC_Material const before(material);
     int const failures = FailEach(
         [&] {
-            std::unique_ptr<kmaC_Material> const copy(
+            nga_test::Owned<kmaC_Material> const copy(
                 DDB_DeepCopyPtr(&material, material.DynTypeId()));
         },
         [&] { EXPECT_TRUE(kmaC_Material::Description().Same(&material, &before)); });
@@ -102,7 +103,7 @@ TEST_F(AllocationFailure, OfADeepCopyLeavesTheSourceAndNothingElse) {
 
 TEST_F(AllocationFailure, OfACopyThatIsWrittenLeavesTheSource) {
     kmaC_Material const material = Steel();
-    std::unique_ptr<kmaC_Material> const before(DDB_DeepCopyPtr(&material, material.DynTypeId()));
+    nga_test::Owned<kmaC_Material> const before(DDB_DeepCopyPtr(&material, material.DynTypeId()));
     int const failures = FailEach(
         [&] {
             kmaC_Material copy(material);
@@ -126,7 +127,9 @@ TEST_F(AllocationFailure, OfARepositorysChangesLeavesItUsable) {
             records.Take();
             changed = std::make_unique<klcC_LoadCaseCont>(source);
             changed->Insert("new", klcC_LoadCase());
-            changed->Insert("5", new klcC_LoadCase);
+            // Made first: a key that fails after the object was made would lose the object.
+            cow_String const five("5");
+            changed->Insert(five, new klcC_LoadCase);
             changed->Get("7").loads.Insert("gravity", 1.0f);
             changed->Remove("9");
             changed->Keys();
@@ -142,7 +145,8 @@ TEST_F(AllocationFailure, OfARepositorysChangesLeavesItUsable) {
                 cow_List<cow_String> const keys = changed->Keys();
                 EXPECT_EQ(keys.Size(), changed->Size());
                 for (int i = 0; i < keys.Size(); ++i)
-                    EXPECT_NE(changed->ConstGetPtr(keys.ConstGet(i)), nullptr);
+                    EXPECT_NE(changed->ConstGetPtr(keys.ConstGet(i)), nullptr)
+                        << keys.ConstGet(i).Text() << " of " << keys.Size();
                 EXPECT_TRUE(changed->Insert("after", klcC_LoadCase()));
                 changed.reset();
             }
@@ -169,10 +173,11 @@ TEST_F(AllocationFailure, OfTakingAnExtensionLeavesTheModelUsable) {
     int const failures = FailEach(
         [&] {
             ddr_Model model("bridge");
-            model.GetExtension(ddr_Model::materialCmd());
-            model.SetExtension(ddr_Model::materialCmd(),
-                               new kmaC_MCWrapper(kmaC_MaterialContainer()));
-            model.SetExtension("other", new kmaC_MCWrapper(kmaC_MaterialContainer()));
+            cow_String const materials(ddr_Model::materialCmd());
+            cow_String const other("other");
+            model.GetExtension(materials);
+            model.SetExtension(materials, new kmaC_MCWrapper(kmaC_MaterialContainer()));
+            model.SetExtension(other, new kmaC_MCWrapper(kmaC_MaterialContainer()));
         },
         [] {});
     EXPECT_GT(failures, 5);

@@ -20,8 +20,9 @@ using nga::Document;
 
 std::vector<mdl_Description const*> HeldClasses() {
     nga::Start();
-    std::vector<mdl_Description const*> classes =
-        nga::ClassesBelow(kmaC_MaterialOption::Description());
+    std::vector<mdl_Description const*> classes;
+    for (nga::NamedClass const& known : nga::ClassesBelow(kmaC_MaterialOption::Description()))
+        classes.push_back(known.description);
     classes.push_back(&kmaC_Material::Description());
     classes.push_back(&klcC_LoadCase::Description());
     return classes;

@@ -69,7 +69,8 @@ TEST_F(Paths, LeadToObjectsValuesRowsCellsAndFactors) {
 
 TEST_F(Paths, OnlyWhatAKeyLeadsToIsAnOptionOfItsOwner) {
     int keyed = 0;
-    for (mdl_Description const* owner : nga::ClassesBelow(kmaC_MaterialOption::Description())) {
+    for (nga::NamedClass const& known : nga::ClassesBelow(kmaC_MaterialOption::Description())) {
+        mdl_Description const* const owner = known.description;
         nga::DescribedObject object(owner->Create(), nga::DescribedDeleter{owner});
         for (mdl_Field const* field : owner->AllFields()) {
             if (field->Type().Kind() != mdl_FieldKind::Option) continue;

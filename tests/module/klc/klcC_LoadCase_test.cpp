@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <memory>
 
 #include "klcC_assert.h"
 #include "nex_TextException.h"
 #include "support/ChangeRecords.h"
+#include "support/Owned.h"
 #include "support/RecordingWriteAgent.h"
 #include "support/StoredObject.h"
 
@@ -129,7 +129,7 @@ TEST(LoadCase, ACopySharesItsMapsUntilOneIsChanged) {
     klcC_LoadCase loadCase;
     loadCase.loads.Insert("gravity", 1.0f);
     loadCase.includeActiveBaseStateBC = false;
-    std::unique_ptr<klcC_LoadCase> const copy(loadCase.Copy());
+    nga_test::Owned<klcC_LoadCase> const copy(loadCase.Copy());
     EXPECT_EQ(copy->uid, loadCase.uid);
     EXPECT_EQ(copy->loads.uid, loadCase.loads.uid);
     EXPECT_FALSE(copy->includeActiveBaseStateBC);
@@ -167,7 +167,7 @@ TEST(LoadCase, WritesItsMapsThenTheFlag) {
               "}\n"
               "bool 3:includeActiveBaseStateBC=true\n");
     for (cow_HandleBase const* handle : log.handles) EXPECT_EQ(handle, nullptr);
-    std::unique_ptr<klcC_LoadCase> const copy(loadCase.Copy());
+    nga_test::Owned<klcC_LoadCase> const copy(loadCase.Copy());
     EXPECT_EQ(log.Write(*copy), "start 0x2DC0001 again\n");
     copy->uid.NewUid();
     EXPECT_NE(log.Write(*copy), "start 0x2DC0001 again\n");

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "DDB_NonGeometricAttributes.h"
 #include "support/FieldMutator.h"
+#include "support/Owned.h"
 #include "support/StoredObject.h"
 #include "support/Tables.h"
 
@@ -92,8 +92,8 @@ private:
 };
 
 /// A material with every option that there is a class for.
-std::unique_ptr<kmaC_Material> WithEveryOption() {
-    auto material = std::make_unique<kmaC_Material>();
+nga_test::Owned<kmaC_Material> WithEveryOption() {
+    nga_test::Owned<kmaC_Material> material(new kmaC_Material);
     for (mdl_Field const& field : kmaC_Material::Description().Fields())
         if (field.Type().Kind() == mdl_FieldKind::Option)
             field.Type().Adopt(field.At(material.get()), field.Type().Held()->Create());
@@ -158,7 +158,7 @@ TEST_F(Material, WithoutOptionsIsValidAndWritesNullsAndTwoTexts) {
     nga_test::WriteLog log;
     EXPECT_EQ(log.Write(material), expected);
     EXPECT_EQ(log.Write(material), "start 0x2380001 again\n");
-    std::unique_ptr<kmaC_Material> const read(DDB_DeepCopyPtr(&material, material.DynTypeId()));
+    nga_test::Owned<kmaC_Material> const read(DDB_DeepCopyPtr(&material, material.DynTypeId()));
     EXPECT_TRUE(kmaC_Material::Description().Same(&material, read.get()));
 }
 
@@ -213,9 +213,9 @@ TEST_F(Material, ReadsItsOptionsAsTheReaderSharesThem) {
 }
 
 TEST_F(Material, ACopySharesEveryOptionAndText) {
-    std::unique_ptr<kmaC_Material> const material = WithEveryOption();
+    nga_test::Owned<kmaC_Material> const material = WithEveryOption();
     material->description = "a steel";
-    std::unique_ptr<kmaC_Material> const copy(material->Copy());
+    nga_test::Owned<kmaC_Material> const copy(material->Copy());
     EXPECT_EQ(copy->uid, material->uid);
     EXPECT_EQ(copy->description.Text(), material->description.Text());
     for (mdl_Field const& field : Fields()) {

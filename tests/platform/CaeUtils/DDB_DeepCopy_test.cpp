@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "DDB_NonGeometricAttributes.h"
+#include "support/Owned.h"
 
 namespace {
 
@@ -27,7 +26,7 @@ TEST_F(DeepCopy, HoldsTheSameContentUnderNewIdentities) {
     elastic->failStress = new kmaC_FailStress;
     material.elastic = elastic;
 
-    std::unique_ptr<kmaC_Material> const copy(DDB_DeepCopyPtr(&material, material.DynTypeId()));
+    nga_test::Owned<kmaC_Material> const copy(DDB_DeepCopyPtr(&material, material.DynTypeId()));
 
     EXPECT_TRUE(kmaC_Material::Description().Same(&material, copy.get()));
     EXPECT_NE(copy->uid, material.uid);

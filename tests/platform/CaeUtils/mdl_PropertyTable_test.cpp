@@ -4,11 +4,11 @@
 
 #include <algorithm>
 #include <climits>
-#include <memory>
 #include <random>
 
 #include "mdl_TableRows.h"
 #include "nex_TextException.h"
+#include "support/Owned.h"
 #include "support/RecordingWriteAgent.h"
 #include "support/StoredObject.h"
 #include "support/Tables.h"
@@ -159,7 +159,7 @@ TEST(PropertyTable, EqualsByItsCellsAlone) {
 
 TEST(PropertyTable, ACopySharesUntilOneIsWritten) {
     mdl_PropertyTable const table(ArrayOf({{1, 2}}));
-    std::unique_ptr<mdl_PropertyTable> const copy(table.Copy());
+    nga_test::Owned<mdl_PropertyTable> const copy(table.Copy());
     EXPECT_EQ(copy->uid, table.uid);
     EXPECT_TRUE(copy->table.SharesWith(table.table));
     copy->MutableCell(0, 1) = 9;

@@ -74,15 +74,18 @@ TEST(PrimTuple, TakesMoreMembersThanItsCapacity) {
     EXPECT_TRUE(tuple.Get(99) == omu_PrimInt(99));
 }
 
+// As primitives: with C++20's reversed candidates two tuples have no best operator.
+bool Equal(omu_Primitive const& a, omu_Primitive const& b) { return a == b; }
+
 TEST(PrimTuple, ACopySharesItsMembersUntilOneGrows) {
     omu_PrimTuple tuple(4, '(');
     tuple.Put("Insert");
     omu_PrimTuple copy(tuple);
     EXPECT_EQ(&tuple.Get(0), &copy.Get(0));
-    EXPECT_TRUE(tuple == copy);
+    EXPECT_TRUE(Equal(tuple, copy));
     copy.Put(1);
     EXPECT_EQ(tuple.Size(), 1);
-    EXPECT_FALSE(tuple == copy);
+    EXPECT_FALSE(Equal(tuple, copy));
     std::unique_ptr<omu_Primitive> const heap(copy.Copy());
     EXPECT_TRUE(*heap == copy);
     EXPECT_FALSE(*heap == omu_PrimInt(1));
