@@ -1,6 +1,7 @@
 #include "nga_Collection.h"
 
 #include "cow_BtreeIterator.h"
+#include "cow_Destroy.h"
 #include "kmaC_Material.h"
 #include "nga_HostExtension.h"
 
@@ -65,7 +66,10 @@ public:
         return static_cast<T const*>(object)->DynTypeId();
     }
     void Insert(ddr_Model& model, cow_String const& key, void* object) const override {
-        Place::template Get<Repository>(model, Name()).Insert(key, static_cast<T*>(object));
+        // The repository may have to be made first, and that may fail with the object in hand.
+        cow_Owned<T> owned(static_cast<T*>(object));
+        Repository& repository = Place::template Get<Repository>(model, Name());
+        repository.Insert(key, owned.Release());
     }
     cls_Uid const* MapUid(ddr_Model const& model) const override {
         Repository const* repository = Found(model);
