@@ -66,6 +66,7 @@ public:
         return static_cast<T const*>(object)->DynTypeId();
     }
     void Insert(ddr_Model& model, cow_String const& key, void* object) const override {
+        // The repository may have to be made first, and that may fail with the object in hand.
         cow_Owned<T> owned(static_cast<T*>(object));
         Repository& repository = Place::template Get<Repository>(model, Name());
         repository.Insert(key, owned.Release());

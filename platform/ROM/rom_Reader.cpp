@@ -539,8 +539,9 @@ cow_HandleBase const& rom_Reader::Object(unsigned typeId, int oid) {
     Reading const reading{*this, table, entry, oid};
     entry.reading = true;
     cls_ReadVisitor const visitor(Open(&table, oid));
-    entry.handle = std::make_unique<cow_ErasedHandle>(table.metadata->Ctor(visitor),
-                                                      table.metadata->Destroyer());
+    // The handle owns the object before there is a place to keep the handle in.
+    cow_ErasedHandle const made(table.metadata->Ctor(visitor), table.metadata->Destroyer());
+    entry.handle = std::make_unique<cow_ErasedHandle>(made);
     return *entry.handle;
 }
 

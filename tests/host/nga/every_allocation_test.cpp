@@ -141,16 +141,17 @@ TEST_F(EveryAllocation, OfBuildingCopyingAndEditingLeavesADocumentThatCanBeUsed)
     int const points = FailEach(
         [] {
             nga::Document document = nga::Document::New("document");
-            auto steel = std::make_unique<kmaC_Material>();
-            steel->elastic = new kmaC_Elastic;
-            steel->elastic.Get().table = kmaC_MaterialTable(2, 2);
-            steel->elastic.Get().table.MutableCell(1, 1) = 0.3;
-            document.Materials().Insert("steel", *steel);
+            kmaC_Material steel;
+            steel.elastic = new kmaC_Elastic;
+            steel.elastic.Get().table = kmaC_MaterialTable(2, 2);
+            steel.elastic.Get().table.MutableCell(1, 1) = 0.3;
+            document.Materials().Insert("steel", steel);
             document.Materials().Insert("copy", document.Materials().ConstGet("steel"));
             document.Materials().Get("copy").elastic.Get().table.MutableCell(0, 0) = 5;
             kmaC_MaterialContainer const kept = document.Materials();
             document.Materials().Remove("steel");
-            document.LoadCases().Insert("wind", new klcC_LoadCase);
+            // By value, as the key is made at the call and may fail with an object in hand.
+            document.LoadCases().Insert("wind", klcC_LoadCase());
             document.LoadCases().Get("wind").loads.Insert("x", 1.5f);
         },
         [&](int n) { ASSERT_EQ(nga::ExportJson(usable), before) << n; },
