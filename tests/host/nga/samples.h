@@ -33,7 +33,7 @@ public:
     DD_END
 };
 
-class SamplePart : public mem_AllocationOperators {
+class SamplePart final : public mem_AllocationOperators {
     DD_ROOT_UNSCRIPTED(SamplePart, 0x3850003, 203)
 public:
     virtual unsigned DynTypeId() const;
