@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include "nga_Error.h"
 #include "nga_Names.h"
 
 namespace nga {
@@ -128,9 +127,6 @@ void JsonWriter::Indent() {
 }
 
 void JsonWriter::Open(char bracket, bool inlined) {
-    if (m_levels.size() >= static_cast<std::size_t>(jsonMaxDepth))
-        throw Error("the objects nest too deep for a text", std::string(), 0,
-                    "at most " + std::to_string(jsonMaxDepth) + " levels");
     Separate();
     bool const inside = !m_levels.empty() && m_levels.back().inlined;
     m_text += bracket;

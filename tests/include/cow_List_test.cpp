@@ -36,7 +36,7 @@ protected:
 };
 using CowListDeathTest = CowList;
 
-TEST(CowList, AFullHintedListGainsWholeGroupsOfItsTableAtTheFront) {
+TEST_F(CowList, AFullHintedListGainsWholeGroupsOfItsTableAtTheFront) {
     struct Case {
         int hint, shift, table, start;
     };

@@ -5,6 +5,7 @@
 #include "nga_Error.h"
 #include "nga_Journal.h"
 #include "nga_JsonTree.h"
+#include "nga_JsonWriter.h"
 #include "nga_Path.h"
 #include "omu_ChangeHistory.h"
 #include "thr_ThreadSingleton.h"
