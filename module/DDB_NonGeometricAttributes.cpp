@@ -24,12 +24,20 @@ DDB_Unit const DDB_units[DDB_unitCount] = {
     {klcC_initialize, klcC_finalize},
 };
 
+void DDB_InitializeUnits(DDB_Unit const* units, int unitCount, int& count) {
+    for (int unit = 0; unit < unitCount; ++unit) units[unit].initialize(count);
+}
+
+void DDB_FinalizeUnits(DDB_Unit const* units, int unitCount, int& count) {
+    for (int unit = unitCount; unit-- > 0;) units[unit].finalize(count);
+}
+
 void DDB_NonGeometricAttributes_initialize(int& count) {
     if (!ddbGuard.Raise(count)) return;
-    for (int unit = 0; unit < DDB_unitCount; ++unit) DDB_units[unit].initialize(count);
+    DDB_InitializeUnits(DDB_units, DDB_unitCount, count);
 }
 
 void DDB_NonGeometricAttributes_finalize(int& count) {
     if (!ddbGuard.Lower(count)) return;
-    for (int unit = DDB_unitCount; unit-- > 0;) DDB_units[unit].finalize(count);
+    DDB_FinalizeUnits(DDB_units, DDB_unitCount, count);
 }

@@ -9,3 +9,7 @@ struct DDB_Unit {
 
 inline constexpr int DDB_unitCount = 13;
 extern DDB_Unit const DDB_units[DDB_unitCount];
+
+/// From the first to the last, and from the last to the first.
+void DDB_InitializeUnits(DDB_Unit const* units, int unitCount, int& count);
+void DDB_FinalizeUnits(DDB_Unit const* units, int unitCount, int& count);

@@ -297,6 +297,22 @@ TEST(RepositoryRecord, HoldsItsBaseAndTheTreeUnderMap) {
     EXPECT_EQ(log.liveWriters, 0);
 }
 
+TEST(Repository, InsertOfAPresentKeyReleasesTheOldObjectBeforeTheNewOneStands) {
+    // Asks the repository when it ends.
+    struct Witness : specimen_Part {
+        Witness(specimen_PartCont const& repository, int& seen)
+            : m_repository(repository), m_seen(seen) {}
+        ~Witness() override { m_seen = m_repository.IsMember("steel") ? 2 : 1; }
+        specimen_PartCont const& m_repository;
+        int& m_seen;
+    };
+    int seen = 0;
+    specimen_PartCont repository;
+    repository.Insert("steel", new Witness(repository, seen));
+    repository.Insert("steel", new specimen_Part);
+    EXPECT_EQ(seen, 1);
+}
+
 TEST(RepositoryRecord, TheEmbeddedFormIsTheTreeAlone) {
     specimen_PartCont const repository;
     WriteLog log;
@@ -345,7 +361,7 @@ TEST(RepositoryRecord, TheEmbeddedFormReadsFromTheVisitorItself) {
     specimen_PartCont const repository(visitor, true);
     EXPECT_EQ(repository.Size(), 2);
     EXPECT_EQ(repository.ConstGetMap().uid, stored.uid);
-    EXPECT_NE(repository.Uid(), stored.uid);
+    EXPECT_TRUE(repository.Uid().IsNull());
 }
 
 TEST(RepositoryRecord, RegistersItsOneField) {
@@ -512,6 +528,40 @@ TEST(NumberRepository, GivesItsKeysSortedByReference) {
     copy.Clear();
     EXPECT_EQ(copy.Keys().Size(), 0);
     EXPECT_EQ(repository.Size(), 4);
+}
+
+TEST(NumberRepository, MarksItsKeysAsTheOneOfNamesDoes) {
+    specimen_NumberCont repository;
+    repository.Insert(5, Part(1));
+    EXPECT_EQ(repository.Keys().Size(), 1);
+    repository.GetMap().InsertUnlessMember(3, specimen_NumberCont::Handle(new specimen_Part));
+    ASSERT_EQ(repository.Keys().Size(), 2);
+    EXPECT_EQ(repository.Keys().ConstGet(0), 3);
+    EXPECT_FALSE(repository.Remove(99));
+    EXPECT_TRUE(repository.Remove(5));
+    EXPECT_EQ(repository.Keys().Size(), 1);
+    std::unique_ptr<mdl_Extension> const copy(repository.Copy());
+    repository.Clear();
+    EXPECT_EQ(repository.Keys().Size(), 0);
+    EXPECT_EQ(static_cast<specimen_NumberCont&>(*copy).Size(), 1);
+    cls_Uid const tree = repository.ConstGetMap().uid;
+    repository.NewUid();
+    EXPECT_EQ(repository.ConstGetMap().uid, tree);
+}
+
+TEST(NumberRepository, RegistersItsOneField) {
+    cls_ClassRegistrar registrar;
+    specimen_NumberCont::InitializeMetadata(registrar);
+    cls_ClassMetadata const* metadata = registrar.Find(specimen_NumberCont::TypeId());
+    ASSERT_NE(metadata, nullptr);
+    EXPECT_EQ(metadata->ParentTypeId(), mdl_Repository::TypeId());
+    ASSERT_EQ(metadata->Attributes().size(), 1u);
+    cls_Attribute const& map = metadata->Attributes()[0];
+    EXPECT_EQ(map.field.Name(), "map");
+    EXPECT_EQ(map.field.Index(), -1);
+    EXPECT_EQ(map.type, 15);
+    EXPECT_EQ(map.arg, 0x230002u);
+    EXPECT_EQ(map.collection, 3);
 }
 
 TEST(NumberRepository, IsWrittenAndReadUnderItsNumbers) {

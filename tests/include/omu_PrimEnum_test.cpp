@@ -162,6 +162,31 @@ TEST(PrimEnum, CopyIsAnEqualObjectOfItsOwn) {
     EXPECT_EQ(static_cast<Law>(*own), Law::STRAIN);
 }
 
+TEST(PrimEnum, ACopyTakesTheStateAndTheIdentitiesAlong) {
+    PrimLaw law(Law::STRAIN);
+    law.SetState(7);
+    std::unique_ptr<omu_Primitive> const copy(law.Copy());
+    EXPECT_EQ(copy->State(), 7u);
+    nga_test::WriteLog log;
+    log.Write(law);
+    log.Write(*copy);
+    ASSERT_EQ(log.started.size(), 3u);
+    // Its own level is known already, so that the copy is the same record.
+    EXPECT_EQ(log.started[2], log.started[0]);
+    EXPECT_EQ(static_cast<PrimLaw const&>(*copy).GetString(), law.GetString());
+}
+
+TEST(PrimEnum, IsReadWithItsStoredIdentity) {
+    nga_test::StoredObject stored;
+    stored.texts["literal"] = "FICK";
+    stored.uid = cls_Uid::AllocateUid();
+    cls_ReadVisitor const visitor(stored.Memento());
+    PrimLaw const law(visitor);
+    nga_test::WriteLog log;
+    log.Write(law);
+    EXPECT_EQ(log.started[0].second, stored.uid);
+}
+
 TEST(PrimEnum, EqualsByLiteralAndNeverATextOfTheSameLetters) {
     EXPECT_TRUE(Equal(PrimLaw(Law::STRAIN), PrimKind(Kind::STRAIN)));
     EXPECT_FALSE(Equal(PrimLaw(Law::FICK), PrimKind(Kind::STRAIN)));

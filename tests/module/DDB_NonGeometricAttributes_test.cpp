@@ -71,6 +71,20 @@ TEST(Library, AUnitThatIsUpAlreadyIsNotCountedTwice) {
     EXPECT_EQ(own, 0);
 }
 
+TEST(Library, UnitsGoDownInTheReverseOrder) {
+    // Each unit puts its own digit behind what is there.
+    DDB_Unit const units[] = {
+        {[](int& count) { count = count * 10 + 1; }, [](int& count) { count = count * 10 + 4; }},
+        {[](int& count) { count = count * 10 + 2; }, [](int& count) { count = count * 10 + 5; }},
+        {[](int& count) { count = count * 10 + 3; }, [](int& count) { count = count * 10 + 6; }},
+    };
+    int count = 0;
+    DDB_InitializeUnits(units, 3, count);
+    EXPECT_EQ(count, 123);
+    DDB_FinalizeUnits(units, 3, count);
+    EXPECT_EQ(count, 123654);
+}
+
 TEST(Library, UnitsComeUpFromTheFloorsToTheModules) {
     DDB_Unit const expected[] = {
         {UTI_CoreUtils_initialize, UTI_CoreUtils_finalize},

@@ -3,8 +3,10 @@
 #include <memory>
 #include <string>
 
+#include "nex_TextException.h"
 #include "omu_AccessErrorException.h"
 #include "omu_ValueErrorException.h"
+#include "support/RecordingWriteAgent.h"
 
 namespace omu_Exceptions_test {
 
@@ -47,6 +49,16 @@ TEST(AccessErrorException, AnEmptyKeyGivesAnEmptyText) {
     auto const caught = Caught(omu_AccessErrorException(cow_String()));
     ASSERT_NE(caught, nullptr);
     EXPECT_STREQ(caught->AsString().Text(), "");
+}
+
+TEST(Exceptions, WriteTheLevelsOfTheirClass) {
+    nga_test::WriteLog log;
+    EXPECT_EQ(log.Write(nex_TextException(atr_raw("x"))),
+              "start 0x230004\nbase 0x230003 {\n  start 0x230003\n}\n");
+    std::string const command =
+        "base 0x230005 {\n  start 0x230005\n  base 0x230003 {\n    start 0x230003\n  }\n}\n";
+    EXPECT_EQ(log.Write(omu_ValueErrorException(atr_raw("x"))), "start 0xA000F\n" + command);
+    EXPECT_EQ(log.Write(omu_AccessErrorException(cow_String("x"))), "start 0xA0010\n" + command);
 }
 
 }  // namespace omu_Exceptions_test
