@@ -323,6 +323,7 @@ mdl_Description const& ClassOf(JsonNode const& node, JsonPlace const& place,
             if (named->text == known.text || named->text == known.description->Name())
                 return *known.description;
     std::vector<std::string> names;
+    names.reserve(classes.size());
     for (NamedClass const& known : classes) names.push_back(known.text);
     std::string const expected = OneOf(names);
     if (!named) Refuse(node, place, "the object's \"class\" is missing", expected);

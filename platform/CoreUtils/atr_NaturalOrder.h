@@ -58,9 +58,9 @@ inline int atr_CompareNames(atr_StringBase const& a, atr_StringBase const& b) no
             std::uint64_t const uEnd = atr_detail::NoDigits(u) & from;
             std::uint64_t const vEnd = atr_detail::NoDigits(v) & from;
             if (uEnd == 0 || ((uEnd ^ vEnd) & (uEnd ^ (uEnd - 1))) != 0) {
-                return atr_detail::CompareFrom(x, static_cast<std::size_t>(aLength), y,
-                                               static_cast<std::size_t>(bLength),
-                                               static_cast<std::size_t>(i + low / 8));
+                return atr_detail::CompareFrom(
+                    x, static_cast<std::size_t>(aLength), y, static_cast<std::size_t>(bLength),
+                    static_cast<std::size_t>(i) + static_cast<std::size_t>(low) / 8);
             }
         }
         return ((u >> low) & 0xff) < ((v >> low) & 0xff) ? -1 : 1;

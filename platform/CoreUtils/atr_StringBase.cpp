@@ -15,7 +15,8 @@ atr_StringBase::atr_StringBase(char const* first, int firstLength, char const* s
     if (secondLength < 0) secondLength = 0;
     if (firstLength == 0 && secondLength == 0) return;
     if (firstLength > INT_MAX - 16 - secondLength) throw std::bad_alloc();
-    std::size_t const length = static_cast<std::size_t>(firstLength + secondLength);
+    std::size_t const length =
+        static_cast<std::size_t>(firstLength) + static_cast<std::size_t>(secondLength);
     std::size_t const padded = (length + 8) & ~std::size_t(7);
     void* const block = mem_OperatorNewThrow(sizeof(Buffer) + padded);
     buffer = new (block) Buffer{1, static_cast<int>(length)};

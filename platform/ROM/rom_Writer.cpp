@@ -253,7 +253,7 @@ private:
 
     template <class T>
     void KeepArray(cow_List<T> const& values, int width) {
-        m_bytes.resize(static_cast<std::size_t>(values.Size() * width));
+        m_bytes.resize(static_cast<std::size_t>(values.Size()) * static_cast<std::size_t>(width));
         for (int i = 0; i < values.Size(); ++i) {
             T const value = values.UncheckedConstGet(i);
             std::memcpy(m_bytes.data() + i * width, &value, sizeof value);
