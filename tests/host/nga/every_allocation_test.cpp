@@ -51,6 +51,13 @@ public:
 
 void* operator new(std::size_t size) { return Allocate(size); }
 void* operator new[](std::size_t size) { return Allocate(size); }
+// The library's own nothrow forms may take memory elsewhere than here.
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
+    return FailsNow() ? nullptr : std::malloc(size ? size : 1);
+}
+void* operator new[](std::size_t size, std::nothrow_t const&) noexcept {
+    return FailsNow() ? nullptr : std::malloc(size ? size : 1);
+}
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
