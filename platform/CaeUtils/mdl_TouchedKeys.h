@@ -1,12 +1,12 @@
 #pragma once
 
-#include "cow_Btree.h"
 #include "cow_List.h"
 #include "cow_String.h"
 
 /// When something last changed, and which keys were touched, each once in the order of their first
-/// touch. The list alone would be searched from end to end for every key, so an index stands
-/// beside it; both are copy-on-write, and a copy costs the same at any size.
+/// touch. A touch only notes the key; repetitions are taken out when the keys are asked for, and
+/// before they outnumber the rest, so that a touch costs the same at any size. The keys are
+/// copy-on-write, and so is a copy's cost.
 class mdl_TouchedKeys {
 public:
     mdl_TouchedKeys();
@@ -14,10 +14,13 @@ public:
     /// Takes the time; the empty key is none.
     void Touch(cow_String const& key);
     double Time() const { return m_time; }
-    cow_List<cow_String> const& Keys() const { return m_keys; }
+    /// Good until the next touch.
+    cow_List<cow_String> const& Keys() const;
 
 private:
+    void Settle() const;
+
     double m_time;
-    cow_List<cow_String> m_keys;
-    cow_Btree<cow_String, bool> m_index;
+    mutable cow_List<cow_String> m_keys;
+    mutable int m_settled = 0;  ///< so many from the first on are each once
 };
