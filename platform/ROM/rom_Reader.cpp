@@ -56,6 +56,17 @@ int rom_Reader::TableReader::Attribute(cls_FieldHandle const& field) const {
     return -1;
 }
 
+rom_Reader::TableReader::Entry& rom_Reader::TableReader::ObjectOf(int oid) {
+    int const number = oid / 64;
+    if (number != lastNumber) {
+        std::unique_ptr<Page>& page = pages[number];
+        if (!page) page = std::make_unique<Page>();
+        lastPage = page.get();
+        lastNumber = number;
+    }
+    return lastPage->entries[oid % 64];
+}
+
 std::unique_ptr<rfm_Cursor> rom_Reader::TableReader::Acquire(int oid) {
     if (!table) Fail("A row is referred to in a table that is not there.", 60);
     // The cursor that stands just before the row reads it with one step.
@@ -512,7 +523,7 @@ cow_HandleBase const& rom_Reader::Object(unsigned typeId, int oid) {
                  " is referred to, and the store has no table of it.",
              500);
     }
-    TableReader::Entry& entry = table.objects[oid];
+    TableReader::Entry& entry = table.ObjectOf(oid);
     if (entry.handle) return *entry.handle;
     if (entry.reading)
         Fail("Row " + std::to_string(oid) + " of table " + table.name.Text() +
@@ -539,9 +550,8 @@ cow_HandleBase const& rom_Reader::Object(unsigned typeId, int oid) {
     Reading const reading{*this, table, entry, oid};
     entry.reading = true;
     cls_ReadVisitor const visitor(Open(&table, oid));
-    // The handle owns the object before there is a place to keep the handle in.
-    cow_ErasedHandle const made(table.metadata->Ctor(visitor), table.metadata->Destroyer());
-    entry.handle = std::make_unique<cow_ErasedHandle>(made);
+    // The handle owns the object also where it cannot be made.
+    entry.handle.emplace(table.metadata->Ctor(visitor), table.metadata->Destroyer());
     return *entry.handle;
 }
 

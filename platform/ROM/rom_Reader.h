@@ -3,6 +3,7 @@
 #include <list>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -42,10 +43,19 @@ private:
         int uidColumn = -1;
         std::vector<std::unique_ptr<rfm_Cursor>> free;
         struct Entry {
-            std::unique_ptr<cow_ErasedHandle> handle;
+            std::optional<cow_ErasedHandle> handle;
             bool reading = false;
         };
-        std::unordered_map<int, Entry> objects;
+        /// Rows are read mostly one after another, so their objects stand in pages by row number.
+        struct Page {
+            Entry entries[64];
+        };
+        std::unordered_map<int, std::unique_ptr<Page>> pages;
+        Page* lastPage = nullptr;
+        int lastNumber = -1;
+
+        /// The place of a row's object; it stays where it is.
+        Entry& ObjectOf(int oid);
 
         int cursors = 0;  // made so far, in use or free
 
