@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 #include "kflC_ButterworthFilter.h"
@@ -43,6 +44,17 @@ nga::Error FailureOf(std::string const& json) {
 
 TEST(Json, AnEmptyDocumentHasOnlyItsHead) {
     EXPECT_EQ(ExportJson(Document::New("empty")), "{\n  \"nga\": 1,\n  \"schema\": 1111\n}\n");
+}
+
+TEST(Journal, PrintsWhatIsNoUtf8AsEscapes) {
+    Document document = Document::New("document");
+    nga::Journal const journal;
+    document.Materials().Insert("st\xe9rile", kmaC_Material());
+    document.Materials().Insert("gr\xc3\xbcn", kmaC_Material());
+    std::string const text = journal.Text();
+    EXPECT_NE(text.find("st\\xe9rile"), std::string::npos) << text;
+    EXPECT_NE(text.find("gr\xc3\xbcn"), std::string::npos) << text;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 2);
 }
 
 TEST(Json, ImportPutsTheObjectsIn) {
