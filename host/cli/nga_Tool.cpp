@@ -274,8 +274,8 @@ private:
         Document document = OpenAny(file);
         for (std::string const& path : UnusableNames(document))
             m_console.Say("warning: " + Printable(file) + ": " + path +
-                          ": the name has a quote, a backslash or a control character, or is "
-                          "empty; no import could bring it back");
+                          ": the name has a quote, a backslash or a control character, is "
+                          "empty, or is kept for the solver; no import could bring it back");
         return document;
     }
 

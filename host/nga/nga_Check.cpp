@@ -172,7 +172,8 @@ std::vector<std::string> UnusableNames(Document const& document) {
     for (Collection const* collection : Collection::All())
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             std::string const path = EntryPath(root, *collection, key.View());
-            if (!IsUsableName(key.View())) paths.push_back(path);
+            if (!IsUsableName(key.View()) || collection->CodeOfName(key.View()) >= 0)
+                paths.push_back(path);
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
             if (description) AddUnusable(paths, budget, *description, object, path);
@@ -196,14 +197,14 @@ std::vector<Finding> Check(Document const& document, CheckDepth depth) {
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
-            if (!description) return;
             std::string const path = EntryPath(root, *collection, key.View());
+            // Beside what the object itself breaks: the name is no part of it.
             if (int const code = collection->CodeOfName(key.View()); code >= 0) {
                 mdl_Module const& module = *collection->Held().Module();
                 findings.push_back(
                     {path, module.prefix, code, std::string(module.errorText(code).View()), false});
             }
-            Recorder(findings, budget, depth, *description, object, path).Run();
+            if (description) Recorder(findings, budget, depth, *description, object, path).Run();
         });
     return findings;
 }

@@ -73,31 +73,6 @@ TEST(Json, ImportPutsTheObjectsIn) {
     EXPECT_EQ(*document.LoadCases().ConstGet("wind").loads.ConstFind("pressure"), 1.5f);
 }
 
-TEST(Json, ANameThatTheSolverKeepsForItselfIsRefusedAndFound) {
-    std::string const reserved = "A system-defined filter is already named \"Antialiasing.\"";
-    Document document = Document::New("document");
-    EXPECT_EQ(
-        FailureOf(document, "{\"filters\": {\"Antialiasing\": {\"class\": \"ButterworthFilter\"}}}")
-            .Message(),
-        reserved);
-    ImportJson(document,
-               "{\"filters\": {\"antialiasing\": {\"class\": \"ButterworthFilter\","
-               "\"cutoffFrequency\": 1}}, \"materials\": {\"Antialiasing\": {}}}");
-    EXPECT_TRUE(nga::Check(document).empty());
-
-    // A file may bring one all the same.
-    kflC_ButterworthFilter filter;
-    filter.cutoffFrequency = 1.0;
-    auto& wrapper = document.Model().GetExtension(cow_String(ddr_Model::filterCmd()));
-    static_cast<kflC_FilterContainer&>(wrapper.GetValue()).Insert("Antialiasing", filter);
-    std::vector<nga::Finding> const findings = nga::Check(document);
-    ASSERT_EQ(findings.size(), 1u);
-    EXPECT_EQ(findings[0].path, "documents['document'].filters['Antialiasing']");
-    EXPECT_EQ(findings[0].module, "kfl");
-    EXPECT_EQ(findings[0].code, 6);
-    EXPECT_EQ(findings[0].message, reserved);
-}
-
 TEST(Json, ExportThenImportThenExportGivesTheSameText) {
     Document document = Document::New("document");
     ImportJson(document, text);
@@ -258,6 +233,43 @@ nga::Error ExportFailureOf(Document const& document) {
 }
 
 }  // namespace
+
+TEST(Json, ANameThatTheSolverKeepsForItselfIsRefusedAndFound) {
+    std::string const reserved = "A system-defined filter is already named \"Antialiasing.\"";
+    Document document = Document::New("document");
+    EXPECT_EQ(
+        FailureOf(document, "{\"filters\": {\"Antialiasing\": {\"class\": \"ButterworthFilter\"}}}")
+            .Message(),
+        reserved);
+    ImportJson(document,
+               "{\"filters\": {\"antialiasing\": {\"class\": \"ButterworthFilter\","
+               "\"cutoffFrequency\": 1}}, \"materials\": {\"Antialiasing\": {}}}");
+    EXPECT_TRUE(nga::Check(document).empty());
+
+    // A file may bring one all the same.
+    kflC_ButterworthFilter filter;
+    filter.cutoffFrequency = 1.0;
+    auto& wrapper = document.Model().GetExtension(cow_String(ddr_Model::filterCmd()));
+    static_cast<kflC_FilterContainer&>(wrapper.GetValue()).Insert("Antialiasing", filter);
+    std::vector<nga::Finding> const findings = nga::Check(document);
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].path, "documents['document'].filters['Antialiasing']");
+    EXPECT_EQ(nga::UnusableNames(document), std::vector<std::string>{findings[0].path});
+    EXPECT_EQ(ExportFailureOf(document).Place(), findings[0].path);
+    EXPECT_EQ(ExportFailureOf(document).Message(),
+              "the name 'Antialiasing' cannot be used, so that no import could read the text");
+    EXPECT_EQ(findings[0].module, "kfl");
+    EXPECT_EQ(findings[0].code, 6);
+    EXPECT_EQ(findings[0].message, reserved);
+
+    // What the object itself breaks is told as well.
+    filter.cutoffFrequency = 0.0;
+    static_cast<kflC_FilterContainer&>(wrapper.GetValue()).Insert("Antialiasing", filter);
+    std::vector<nga::Finding> const both = nga::Check(document);
+    ASSERT_EQ(both.size(), 2u);
+    EXPECT_EQ(both[0].code, 6);
+    EXPECT_EQ(both[1].code, 0);
+}
 
 TEST(Json, WhatCouldNotBeImportedAgainIsNotExported) {
     std::string const tail = ", so that no import could read the text";
