@@ -22,6 +22,7 @@ namespace nga {
 
 namespace {
 
+constexpr double maxNumber = std::numeric_limits<double>::max();
 constexpr double twoPi = 6.283185307179586476925;
 /// More terms than anybody draws; what they cost grows with their square.
 constexpr int maxTerms = 2000;
@@ -69,9 +70,10 @@ std::vector<Point> WithEnds(std::vector<Point> points) {
     Point const last = points.back();
     double lead = 0.05 * (last.x - first.x);
     if (!(lead > 0)) lead = first.x != 0 ? 0.1 * std::fabs(first.x) : 1.0;
-    double const from = Before(first.x, lead);
+    // At the end of the numbers there is no room for it.
+    double const from = std::max(Before(first.x, lead), -maxNumber);
     if (from < first.x) points.insert(points.begin(), {from, first.y});
-    points.push_back({last.x + lead, last.y});
+    points.push_back({std::min(last.x + lead, maxNumber), last.y});
     return points;
 }
 
@@ -84,7 +86,7 @@ Curve OfRecord(Recorded const& amplitude, std::vector<Point> points) {
     if (points.empty()) return None("the table has no two columns");
     if (!IsFinite(points)) return None("a point of it is not finite");
     Curve curve = OverTime(WithEnds(std::move(points)));
-    if (amplitude.smooth == std::numeric_limits<double>::max())
+    if (amplitude.smooth == maxNumber)
         AddNote(curve, "without the smoothing that the solver may apply");
     else if (amplitude.smooth != 0)
         AddNote(curve, "without its smoothing");
@@ -147,6 +149,7 @@ Curve Of(kamC_Periodic const& amplitude) {
     if (data.Columns() < 2) return None("the table has no two columns");
     int terms = data.Rows();
     while (terms > 0 && data.Cell(terms - 1, 0) == 0 && data.Cell(terms - 1, 1) == 0) --terms;
+    if (!std::isfinite(amplitude.frequency)) return None("its frequency is not finite");
     if (terms > maxTerms)
         return None("the series has more than " + std::to_string(maxTerms) + " terms");
     double const start = amplitude.start;
@@ -172,6 +175,7 @@ Curve Of(kamC_Modulated const& amplitude) {
     double const w1 = amplitude.frequency1;
     double const w2 = amplitude.frequency2;
     double const start = amplitude.start;
+    if (!std::isfinite(std::fabs(w1) + std::fabs(w2))) return None("a frequency is not finite");
     if (w1 == 0 || w2 == 0 || amplitude.magnitude == 0) {
         std::vector<Point> points = {{start, amplitude.initial}, {start, amplitude.initial}};
         Curve curve = OverTime(WithEnds(std::move(points)));
@@ -295,8 +299,8 @@ Curve Dispatch(kamC_Amplitude const& amplitude) {
 Curve CurveOf(kamC_Amplitude const& amplitude) {
     mdl_Description const* description = mdl_Description::Find(amplitude.DynTypeId());
     if (!description) return None("its class is not known");
-    std::vector<Finding> const findings = Check(*description, &amplitude, std::string());
-    if (!findings.empty()) return None("it breaks a rule: " + findings.front().message);
+    std::string const broken = BrokenRule(*description, &amplitude);
+    if (!broken.empty()) return None("it breaks a rule: " + broken);
     Curve curve = Dispatch(amplitude);
     if (!curve.none.empty()) return curve;
     for (CurveLine const& line : curve.lines)

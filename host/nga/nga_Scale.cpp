@@ -48,8 +48,8 @@ Scale Scale::Of(double low, double high, bool logarithmic) {
 Scale Scale::Rounded(double low, double high, int wanted) {
     Scale scale = Of(low, high);
     double const step = scale.Step(wanted);
-    double const below = std::floor(scale.m_low / step * (1 + 1e-12)) * step;
-    double const above = std::ceil(scale.m_high / step * (1 - 1e-12)) * step;
+    double const below = std::floor(scale.m_low / step + 1e-6) * step;
+    double const above = std::ceil(scale.m_high / step - 1e-6) * step;
     if (std::isfinite(below)) scale.m_low = std::min(below, scale.m_low);
     if (std::isfinite(above)) scale.m_high = std::max(above, scale.m_high);
     return scale;

@@ -298,23 +298,29 @@ bool AreFinite(std::initializer_list<double> values) {
     return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
 }
 
-bool HasFiniteOutline(Section const& section) {
-    Point low{0, 0};
-    Point high{0, 0};
-    for (Contour const& contour : section.contours) {
-        if (!std::isfinite(2 * contour.radius)) return false;
-        for (Point const& p : contour.polygon) {
-            if (!AreFinite({p.x, p.y})) return false;
-            low = {std::min(low.x, p.x), std::min(low.y, p.y)};
-            high = {std::max(high.x, p.x), std::max(high.y, p.y)};
-        }
+/// Why nobody can draw these contours; empty for what has a size and lies within sight of its
+/// origin.
+std::string NoOutline(std::vector<Contour> const& contours) {
+    Point low{INFINITY, INFINITY};
+    Point high{-INFINITY, -INFINITY};
+    auto const include = [&](double x, double y) {
+        low = {std::min(low.x, x), std::min(low.y, y)};
+        high = {std::max(high.x, x), std::max(high.y, y)};
+        return AreFinite({x, y});
+    };
+    bool finite = true;
+    for (Contour const& contour : contours) {
+        if (contour.radius != 0)
+            finite = include(-contour.radius, -contour.radius) &&
+                     include(contour.radius, contour.radius) && finite;
+        for (Point const& p : contour.polygon) finite = include(p.x, p.y) && finite;
     }
-    return AreFinite({high.x - low.x, high.y - low.y});
-}
-
-std::string OneLine(std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
+    double const size = std::max(high.x - low.x, high.y - low.y);
+    if (!finite || !(size < 1e300)) return "a dimension of it is not finite or too great";
+    if (!(size > 1e-290)) return "it is too small for numbers";
+    double const far = std::max({-low.x, -low.y, high.x, high.y});
+    if (!(size > 1e-8 * far)) return "it lies too far from its origin";
+    return std::string();
 }
 
 }  // namespace
@@ -322,18 +328,21 @@ std::string OneLine(std::string text) {
 Section SectionOf(kbpC_BeamProfile const& profile) {
     mdl_Description const* description = mdl_Description::Find(profile.DynTypeId());
     if (!description) return None("its class is not known");
-    std::vector<Finding> const findings = Check(*description, &profile, std::string());
-    if (!findings.empty()) return None("it breaks a rule: " + OneLine(findings.front().message));
+    std::string const broken = BrokenRule(*description, &profile);
+    if (!broken.empty()) return None("it breaks a rule: " + broken);
     Section section = Dispatch(profile);
     // What is given is shown as it is.
     if (!section.none.empty() || !section.noOutline.empty()) return section;
-    if (!HasFiniteOutline(section)) return None("a dimension of it is not finite or too great");
+    section.noOutline = NoOutline(section.contours);
+    if (!section.noOutline.empty()) section.contours.clear();
     SectionProperties& p = section.properties;
     p.polar = p.i11 + p.i22;
     section.hasCentroid = true;
     if (!AreFinite({p.area, p.centroid.x, p.centroid.y, p.i11, p.i22, p.i12, p.polar}) ||
         !(p.area > 0) || !(p.i11 > 0) || !(p.i22 > 0))
-        section.none = "its second moments are too great or too small for numbers";
+        section.none = section.noOutline.empty()
+                           ? "its second moments are too great or too small for numbers"
+                           : section.noOutline;
     return section;
 }
 
