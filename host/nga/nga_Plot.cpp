@@ -9,7 +9,9 @@ namespace nga {
 
 namespace {
 
+constexpr int lineWidth = 80;
 constexpr int plotColumns = 60;
+constexpr std::size_t maxNames = 12;
 constexpr int plotRows = 16;
 
 /// Dots in characters: two across and four down in each.
@@ -81,14 +83,14 @@ struct Axes {
 
 /// Axes of one unit on as many dots as the narrower way has room for. Dots are as far apart across
 /// as down, since characters are about twice as high as wide.
-Axes SameScaleAxes(PictureBounds const& bounds) {
+Axes SameScaleAxes(PictureBounds const& bounds, int columns) {
     double const width = bounds.high.x - bounds.low.x;
     double const height = bounds.high.y - bounds.low.y;
-    double const unit = std::max(width / (plotColumns * 2 - 1), height / (plotRows * 4 - 1));
+    double const unit = std::max(width / (columns * 2 - 1), height / (plotRows * 4 - 1));
     auto const cells = [&](double length, int dots) {
         return std::max(1, (static_cast<int>(std::ceil(length / unit * (1 - 1e-9))) + dots) / dots);
     };
-    Dots dots(std::min(cells(width, 2), plotColumns), std::min(cells(height, 4), plotRows));
+    Dots dots(std::min(cells(width, 2), columns), std::min(cells(height, 4), plotRows));
     auto const fitted = [&](double low, double high, int count) {
         double const spare = ((count - 1) * unit - (high - low)) / 2;
         return Scale::Of(low - std::max(spare, 0.0), high + std::max(spare, 0.0));
@@ -98,11 +100,11 @@ Axes SameScaleAxes(PictureBounds const& bounds) {
     return {across, up, std::move(dots)};
 }
 
-Axes AxesOf(Picture const& picture) {
+Axes AxesOf(Picture const& picture, int columns) {
     PictureBounds const bounds = BoundsOf(picture);
-    if (picture.sameScale) return SameScaleAxes(bounds);
+    if (picture.sameScale) return SameScaleAxes(bounds, columns);
     return {Scale::Of(bounds.low.x, bounds.high.x, picture.logarithmic),
-            Scale::Rounded(bounds.low.y, bounds.high.y, 4), Dots(plotColumns, plotRows)};
+            Scale::Rounded(bounds.low.y, bounds.high.y, 4), Dots(columns, plotRows)};
 }
 
 /// A contour as a polygon of dots.
@@ -173,7 +175,9 @@ std::string TicksBelow(std::vector<Scale::Tick> const& ticks, int columns, std::
     for (Scale::Tick const& tick : ticks) {
         int const middle = static_cast<int>(margin) +
                            static_cast<int>(std::lround(tick.place * (columns * 2 - 1))) / 2;
-        int const begin = std::max(0, middle - static_cast<int>(tick.text.size()) / 2);
+        int const size = static_cast<int>(tick.text.size());
+        int const begin =
+            std::max(0, std::min(middle - size / 2, static_cast<int>(margin) + columns - size));
         if (!text.empty() && static_cast<std::size_t>(begin) < text.size() + 2) continue;
         text.append(static_cast<std::size_t>(begin) - text.size(), ' ');
         text += tick.text;
@@ -181,24 +185,69 @@ std::string TicksBelow(std::vector<Scale::Tick> const& ticks, int columns, std::
     return text;
 }
 
-}  // namespace
+/// A text behind a heading, in lines that are set in below it.
+std::string Wrapped(std::string const& heading, std::string const& text) {
+    std::string wrapped = heading;
+    std::size_t column = heading.size();
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t const end = std::min(text.find(' ', at), text.size());
+        if (column + (end - at) > lineWidth && column > heading.size()) {
+            wrapped.back() = '\n';
+            wrapped += std::string(heading.size(), ' ');
+            column = heading.size();
+        }
+        wrapped += text.substr(at, end - at) + " ";
+        column += end - at + 1;
+        at = end + 1;
+    }
+    wrapped.back() = '\n';
+    return wrapped;
+}
 
-std::string PlotText(Picture const& picture) {
-    Axes axes = AxesOf(picture);
-    Draw(axes, picture);
-    int const columns = axes.dots.Across() / 2;
-    int const rows = axes.dots.Down() / 4;
-    std::vector<std::string> labels(static_cast<std::size_t>(rows));
+std::string NamesOf(std::vector<CurveLine> const& lines) {
+    std::string names;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i == maxNames) return names + " and " + std::to_string(lines.size() - i) + " more";
+        names += (i == 0 ? "" : ", ") + lines[i].name;
+    }
+    return names;
+}
+
+/// The texts left of the axis, row by row.
+struct Labels {
+    std::vector<std::string> rows;
     std::size_t width = 0;
+};
+
+Labels LabelsOf(Axes const& axes) {
+    int const rows = axes.dots.Down() / 4;
+    Labels labels;
+    labels.rows.resize(static_cast<std::size_t>(rows));
     for (Scale::Tick const& tick : axes.up.Ticks(std::max(1, std::min(4, rows / 2)))) {
         int const row =
             static_cast<int>(std::lround((1 - tick.place) * (axes.dots.Down() - 1))) / 4;
-        labels[static_cast<std::size_t>(row)] = tick.text;
-        width = std::max(width, tick.text.size());
+        labels.rows[static_cast<std::size_t>(row)] = tick.text;
+        labels.width = std::max(labels.width, tick.text.size());
     }
+    return labels;
+}
+
+}  // namespace
+
+std::string PlotText(Picture const& picture) {
+    Axes axes = AxesOf(picture, plotColumns);
+    Labels labels = LabelsOf(axes);
+    // Great numbers that hardly differ need many digits.
+    if (int const room = lineWidth - 4 - static_cast<int>(labels.width); room < plotColumns) {
+        axes = AxesOf(picture, room);
+        labels = LabelsOf(axes);
+    }
+    Draw(axes, picture);
+    int const columns = axes.dots.Across() / 2;
+    std::size_t const width = labels.width;
     std::string text = "  " + picture.up + "\n";
-    for (int row = 0; row < rows; ++row) {
-        std::string const& label = labels[static_cast<std::size_t>(row)];
+    for (int row = 0; row < axes.dots.Down() / 4; ++row) {
+        std::string const& label = labels.rows[static_cast<std::size_t>(row)];
         text += "  " + std::string(width - label.size(), ' ') + label +
                 (label.empty() ? " │" : " ┤") + axes.dots.Row(row) + "\n";
     }
@@ -215,13 +264,8 @@ std::string PlotText(Picture const& picture) {
     std::size_t const indent =
         room > picture.across.size() ? (room - picture.across.size()) / 2 : 0;
     text += std::string(margin + indent, ' ') + picture.across + "\n";
-    if (picture.lines.size() > 1) {
-        text += "  lines: ";
-        for (std::size_t i = 0; i < picture.lines.size(); ++i)
-            text += (i == 0 ? "" : ", ") + picture.lines[i].name;
-        text += "\n";
-    }
-    if (!picture.note.empty()) text += "  note: " + picture.note + "\n";
+    if (picture.lines.size() > 1) text += Wrapped("  lines: ", NamesOf(picture.lines));
+    if (!picture.note.empty()) text += Wrapped("  note: ", picture.note);
     return text;
 }
 

@@ -5,9 +5,8 @@
 #include <cfloat>
 #include <sstream>
 
-#include "nga_Names.h"
 #include "nga_Svg.h"
-#include "xml.h"
+#include "pictures.h"
 
 // A picture of each kind, on a terminal and as SVG.
 
@@ -53,58 +52,11 @@ Picture Section(std::vector<Contour> contours) {
     return picture;
 }
 
-std::vector<std::string> Lines(std::string const& text) {
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) lines.push_back(line);
-    return lines;
-}
-
-std::size_t Width(std::string_view line) {
-    std::size_t width = 0;
-    while (!line.empty()) {
-        int const length = nga::Utf8Length(line);
-        EXPECT_GT(length, 0) << "no UTF-8";
-        line.remove_prefix(static_cast<std::size_t>(std::max(length, 1)));
-        ++width;
-    }
-    return width;
-}
-
-/// The rows of dots alone, behind the axis.
-std::vector<std::string> Dots(std::string const& plot) {
-    std::vector<std::string> rows;
-    for (std::string const& line : Lines(plot))
-        for (char const* axis : {"│", "┤"})
-            if (std::size_t const at = line.find(axis); at != std::string::npos)
-                rows.push_back(line.substr(at + std::string(axis).size()));
-    return rows;
-}
-
 int Count(std::string const& text, std::string const& word) {
     int count = 0;
     for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1))
         ++count;
     return count;
-}
-
-void ExpectWellFormed(Picture const& picture) {
-    std::string const plot = PlotText(picture);
-    EXPECT_EQ(plot.back(), '\n');
-    for (std::string const& line : Lines(plot)) {
-        EXPECT_LE(Width(line), 80u) << line;
-        EXPECT_TRUE(line.empty() || line.back() != ' ') << line;
-    }
-    EXPECT_LE(Dots(plot).size(), 16u);
-    std::string dots;
-    for (std::string const& row : Dots(plot)) dots += row;
-    EXPECT_NE(dots, "") << plot;
-    std::string const svg = SvgText(picture);
-    EXPECT_EQ(XmlMistake(svg), "") << svg;
-    for (char const* odd : {"nan", "inf"}) {
-        EXPECT_EQ(plot.find(odd), std::string::npos) << plot;
-        EXPECT_EQ(svg.find(odd), std::string::npos) << svg;
-    }
 }
 
 }  // namespace
@@ -173,6 +125,19 @@ TEST(APlot, NamesItsLinesAndItsNote) {
     EXPECT_NE(svg.find(">real part<"), std::string::npos);
     EXPECT_NE(svg.find(">note: without its smoothing<"), std::string::npos);
     EXPECT_EQ(Count(svg, "<polyline"), 2);
+}
+
+TEST(APlot, NamesManyLinesInSeveralLinesOfText) {
+    Picture picture = Curve({{0, 0}, {1, 1}});
+    for (int i = 0; i < 20; ++i)
+        picture.lines.push_back({"damping ratio 0." + std::to_string(i), {{0, 1}, {1, 0}}});
+    picture.lines.erase(picture.lines.begin());
+    ExpectWellFormed(picture);
+    std::string const plot = PlotText(picture);
+    EXPECT_NE(plot.find("  lines: damping ratio 0.0, damping ratio 0.1, "), std::string::npos);
+    EXPECT_NE(plot.find("\n         "), std::string::npos) << plot;
+    EXPECT_NE(plot.find(" and 8 more\n"), std::string::npos) << plot;
+    EXPECT_NE(SvgText(picture).find(">and 9 more<"), std::string::npos);
 }
 
 TEST(APicture, OfExtremesIsWellFormed) {
