@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <complex>
-#include <cstdio>
 #include <limits>
 
 #include "kamC_Decay.h"
@@ -17,6 +16,7 @@
 #include "kamC_Tabular.h"
 #include "kamC_UserAmplitude.h"
 #include "nga_Check.h"
+#include "nga_Scale.h"
 
 namespace nga {
 
@@ -31,7 +31,7 @@ constexpr int pointsOfAnOscillation = 24;
 
 std::string const frequencyText = "frequency";
 
-Curve None(std::string const& why) {
+Curve NoCurve(std::string const& why) {
     Curve curve;
     curve.none = why;
     return curve;
@@ -83,8 +83,8 @@ void AddNote(Curve& curve, std::string const& text) {
 
 template <class Recorded>
 Curve OfRecord(Recorded const& amplitude, std::vector<Point> points) {
-    if (points.empty()) return None("the table has no two columns");
-    if (!IsFinite(points)) return None("a point of it is not finite");
+    if (points.empty()) return NoCurve("the table has no two columns");
+    if (!IsFinite(points)) return NoCurve("a point of it is not finite");
     Curve curve = OverTime(WithEnds(std::move(points)));
     if (amplitude.smooth == maxNumber)
         AddNote(curve, "without the smoothing that the solver may apply");
@@ -98,6 +98,7 @@ Curve Of(kamC_Tabular const& amplitude) { return OfRecord(amplitude, Rows(amplit
 
 Curve Of(kamC_EquallySpaced const& amplitude) {
     std::vector<Point> points;
+    points.reserve(static_cast<std::size_t>(amplitude.data.Size()));
     for (int i = 0; i < amplitude.data.Size(); ++i)
         points.push_back(
             {amplitude.begin + i * amplitude.fixedInterval, amplitude.data.ConstGet(i)});
@@ -106,8 +107,8 @@ Curve Of(kamC_EquallySpaced const& amplitude) {
 
 Curve Of(kamC_SmoothStep const& amplitude) {
     std::vector<Point> const rows = Rows(amplitude.data);
-    if (rows.empty()) return None("the table has no two columns");
-    if (!IsFinite(rows)) return None("a point of it is not finite");
+    if (rows.empty()) return NoCurve("the table has no two columns");
+    if (!IsFinite(rows)) return NoCurve("a point of it is not finite");
     int const pieces = std::clamp(static_cast<int>(20000 / rows.size()), 4, 40);
     std::vector<Point> points = {rows.front()};
     for (std::size_t i = 1; i < rows.size(); ++i) {
@@ -146,12 +147,12 @@ std::vector<Point> Period(kamC_Periodic const& amplitude, int terms) {
 
 Curve Of(kamC_Periodic const& amplitude) {
     cow_2DArray<double> const& data = amplitude.data;
-    if (data.Columns() < 2) return None("the table has no two columns");
+    if (data.Columns() < 2) return NoCurve("the table has no two columns");
     int terms = data.Rows();
     while (terms > 0 && data.Cell(terms - 1, 0) == 0 && data.Cell(terms - 1, 1) == 0) --terms;
-    if (!std::isfinite(amplitude.frequency)) return None("its frequency is not finite");
+    if (!std::isfinite(amplitude.frequency)) return NoCurve("its frequency is not finite");
     if (terms > maxTerms)
-        return None("the series has more than " + std::to_string(maxTerms) + " terms");
+        return NoCurve("the series has more than " + std::to_string(maxTerms) + " terms");
     double const start = amplitude.start;
     if (amplitude.frequency == 0) {
         double after = amplitude.a_0;
@@ -175,7 +176,7 @@ Curve Of(kamC_Modulated const& amplitude) {
     double const w1 = amplitude.frequency1;
     double const w2 = amplitude.frequency2;
     double const start = amplitude.start;
-    if (!std::isfinite(std::fabs(w1) + std::fabs(w2))) return None("a frequency is not finite");
+    if (!std::isfinite(std::fabs(w1) + std::fabs(w2))) return NoCurve("a frequency is not finite");
     if (w1 == 0 || w2 == 0 || amplitude.magnitude == 0) {
         std::vector<Point> points = {{start, amplitude.initial}, {start, amplitude.initial}};
         Curve curve = OverTime(WithEnds(std::move(points)));
@@ -202,7 +203,7 @@ Curve Of(kamC_Modulated const& amplitude) {
 
 Curve Of(kamC_Decay const& amplitude) {
     double const decay = amplitude.decayTime;
-    if (!(decay > 0)) return None("the decay time is not positive");
+    if (!(decay > 0)) return NoCurve("the decay time is not positive");
     std::vector<Point> points;
     double const start = amplitude.start;
     points.push_back({Before(start, 0.5 * decay), amplitude.initial});
@@ -226,7 +227,7 @@ void OverFrequency(Curve& curve) {
 Curve Of(kamC_PsdDefinition const& amplitude) {
     cow_2DArray<double> const& table = amplitude.table;
     if (table.Rows() == 0 || table.Columns() < 3)
-        return None(amplitude.user ? "a subroutine of the user gives it" : "the table is empty");
+        return NoCurve(amplitude.user ? "a subroutine of the user gives it" : "the table is empty");
     Curve curve;
     curve.lines.resize(2);
     curve.lines[0].name = "real part";
@@ -247,24 +248,18 @@ Curve Of(kamC_PsdDefinition const& amplitude) {
     return curve;
 }
 
-std::string NumberText(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.6g", value);
-    return text;
-}
-
 Curve Of(kamC_Spectrum const& amplitude) {
     cow_2DArray<double> const& table = amplitude.table;
-    if (table.Rows() == 0) return None("the table is empty");
+    if (table.Rows() == 0) return NoCurve("the table is empty");
     Curve curve;
     std::vector<double> ratios;
     for (int row = 0; row < table.Rows(); ++row) {
         double const ratio = table.Cell(row, 2);
-        if (!std::isfinite(ratio)) return None("a damping ratio is not finite");
+        if (!std::isfinite(ratio)) return NoCurve("a damping ratio is not finite");
         std::size_t line = 0;
         while (line < ratios.size() && ratios[line] != ratio) ++line;
         if (line == ratios.size()) {
-            if (line == 100) return None("it has lines for more than 100 damping ratios");
+            if (line == 100) return NoCurve("it has lines for more than 100 damping ratios");
             ratios.push_back(ratio);
             curve.lines.push_back({"damping ratio " + NumberText(ratio), {}});
         }
@@ -288,23 +283,23 @@ Curve Dispatch(kamC_Amplitude const& amplitude) {
     if (auto const* one = dynamic_cast<kamC_PsdDefinition const*>(&amplitude)) return Of(*one);
     if (auto const* one = dynamic_cast<kamC_Spectrum const*>(&amplitude)) return Of(*one);
     if (dynamic_cast<kamC_SolutionDependent const*>(&amplitude))
-        return None("the solver finds its values as it goes");
+        return NoCurve("the solver finds its values as it goes");
     if (dynamic_cast<kamC_UserAmplitude const*>(&amplitude))
-        return None("a subroutine of the user gives its values");
-    return None("its values come from outside the model during the analysis");
+        return NoCurve("a subroutine of the user gives its values");
+    return NoCurve("its values come from outside the model during the analysis");
 }
 
 }  // namespace
 
 Curve CurveOf(kamC_Amplitude const& amplitude) {
     mdl_Description const* description = mdl_Description::Find(amplitude.DynTypeId());
-    if (!description) return None("its class is not known");
+    if (!description) return NoCurve("its class is not known");
     std::string const broken = BrokenRule(*description, &amplitude);
-    if (!broken.empty()) return None("it breaks a rule: " + broken);
+    if (!broken.empty()) return NoCurve("it breaks a rule: " + broken);
     Curve curve = Dispatch(amplitude);
     if (!curve.none.empty()) return curve;
     for (CurveLine const& line : curve.lines)
-        if (!IsFinite(line.points)) return None("a point of it is not finite");
+        if (!IsFinite(line.points)) return NoCurve("a point of it is not finite");
     if (curve.up.empty()) curve.up = "amplitude";
     if (curve.across.empty())
         curve.across =

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
+
+#include "nga_Scale.h"
 
 namespace nga {
 
@@ -21,12 +22,6 @@ T const* SelectedAs(Selection const& selection) {
     if (selection.what != Selection::What::Object || !selection.object) return nullptr;
     if (!IsBelow(selection.description, T::Description())) return nullptr;
     return static_cast<T const*>(selection.object);
-}
-
-std::string NumberText(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.6g", value);
-    return text;
 }
 
 void Include(PictureBounds& bounds, Point p) {

@@ -12,7 +12,7 @@ namespace {
 /// Where less than this part of the numbers themselves lies between them, it is rounding.
 constexpr double relativeRest = 1e-10;
 
-std::string Text(double value, int decimals, bool scientific) {
+std::string TickText(double value, int decimals, bool scientific) {
     char text[64];
     std::snprintf(text, sizeof text, scientific ? "%.*e" : "%.*f", decimals, value);
     return text;
@@ -21,6 +21,12 @@ std::string Text(double value, int decimals, bool scientific) {
 int DecadeOf(double value) { return static_cast<int>(std::floor(std::log10(value))); }
 
 }  // namespace
+
+std::string NumberText(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.6g", value);
+    return text;
+}
 
 Scale::Scale(double low, double high, bool logarithmic)
     : m_low(low), m_high(high), m_logarithmic(logarithmic) {}
@@ -84,7 +90,8 @@ std::vector<Scale::Tick> Scale::Decades(int wanted) const {
             double const value = factor * std::pow(10.0, decade);
             if (value < m_low * (1 - 1e-9) || value > m_high * (1 + 1e-9)) continue;
             bool const plain = std::abs(decade) <= 4;
-            ticks.push_back({Place(value), Text(value, plain ? std::max(-decade, 0) : 0, !plain)});
+            ticks.push_back(
+                {Place(value), TickText(value, plain ? std::max(-decade, 0) : 0, !plain)});
         }
     }
     return ticks;
@@ -111,7 +118,7 @@ std::vector<Scale::Tick> Scale::EvenTicks(int wanted) const {
     for (double k = first; k <= last && ticks.size() < 100; ++k) {
         double const value = k * step;
         if (!std::isfinite(value)) continue;
-        ticks.push_back({Place(value), k == 0 ? "0" : Text(value, decimals, scientific)});
+        ticks.push_back({Place(value), k == 0 ? "0" : TickText(value, decimals, scientific)});
     }
     return ticks;
 }

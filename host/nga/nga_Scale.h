@@ -5,6 +5,9 @@
 
 namespace nga {
 
+/// A number for people, with six digits.
+std::string NumberText(double value);
+
 /// One axis of a picture: from numbers to places between 0 and 1, and the numbers that stand at it.
 /// Any finite numbers will do, those at the ends of what a double can hold included; where all are
 /// equal, or differ by no more than rounding, the axis spreads around them.

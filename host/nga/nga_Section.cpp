@@ -131,7 +131,7 @@ Section Moved(Section section, double by) {
     return section;
 }
 
-Section None(std::string const& why) {
+Section NoSection(std::string const& why) {
     Section section;
     section.none = section.noOutline = why;
     return section;
@@ -230,7 +230,8 @@ Section Of(kbpC_IbeamProfile const& profile) {
     double const flanges =
         (profile.b1 > 0 ? profile.t1 : 0.0) + (profile.b2 > 0 ? profile.t2 : 0.0);
     // No rule forbids it, but then the flanges would lie in each other.
-    if (!(profile.h >= flanges)) return None("the flanges together are thicker than the height");
+    if (!(profile.h >= flanges))
+        return NoSection("the flanges together are thicker than the height");
     return Moved(Flanged(profile.h, profile.b1, profile.t1, profile.b2, profile.t2, profile.t3),
                  profile.l);
 }
@@ -264,7 +265,7 @@ Section Of(kbpC_ArbitraryProfile const& profile) {
                                     {to.x + nx, to.y + ny},
                                     {from.x + nx, from.y + ny}}));
     }
-    if (contours.empty()) return None("it has no segments");
+    if (contours.empty()) return NoSection("it has no segments");
     return Polygons(std::move(contours));
 }
 
@@ -291,7 +292,7 @@ Section Dispatch(kbpC_BeamProfile const& profile) {
     if (auto const* one = dynamic_cast<kbpC_LbeamProfile const*>(&profile)) return Of(*one);
     if (auto const* one = dynamic_cast<kbpC_ArbitraryProfile const*>(&profile)) return Of(*one);
     if (auto const* one = dynamic_cast<kbpC_GeneralizedProfile const*>(&profile)) return Of(*one);
-    return None("its class has no shape that is known");
+    return NoSection("its class has no shape that is known");
 }
 
 bool AreFinite(std::initializer_list<double> values) {
@@ -327,9 +328,9 @@ std::string NoOutline(std::vector<Contour> const& contours) {
 
 Section SectionOf(kbpC_BeamProfile const& profile) {
     mdl_Description const* description = mdl_Description::Find(profile.DynTypeId());
-    if (!description) return None("its class is not known");
+    if (!description) return NoSection("its class is not known");
     std::string const broken = BrokenRule(*description, &profile);
-    if (!broken.empty()) return None("it breaks a rule: " + broken);
+    if (!broken.empty()) return NoSection("it breaks a rule: " + broken);
     Section section = Dispatch(profile);
     // What is given is shown as it is.
     if (!section.none.empty() || !section.noOutline.empty()) return section;

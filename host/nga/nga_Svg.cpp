@@ -13,8 +13,8 @@ namespace {
 
 constexpr double pageWidth = 720;
 constexpr double plotLeft = 90;
+constexpr double plotRight = 690;
 constexpr double plotTop = 50;
-constexpr double plotWidth = 600;
 constexpr double plotHeight = 340;
 /// Colours that are told apart by those who see few of them, and on paper.
 constexpr char const* lineColours[] = {"#0b5394", "#b45309", "#2e7d32",
@@ -67,31 +67,63 @@ std::string Shortened(std::string const& text, std::size_t room) {
 struct Frame {
     Scale across;
     Scale up;
+    double left;
     double width;
     double height;
 
-    double X(double value) const { return plotLeft + across.Place(value) * width; }
+    double X(double value) const { return left + across.Place(value) * width; }
     double Y(double value) const { return plotTop + (1 - up.Place(value)) * height; }
     std::string At(Point p) const { return Number(X(p.x)) + " " + Number(Y(p.y)); }
 };
 
+std::vector<Scale::Tick> UpTicks(Scale const& up, double height) {
+    return up.Ticks(std::max(1, static_cast<int>(height / 55)));
+}
+
+/// About how wide a number is.
+double WidthOf(Scale::Tick const& tick) { return 7.5 * static_cast<double>(tick.text.size()); }
+
+/// As many as have room beside each other.
+std::vector<Scale::Tick> AcrossTicks(Scale const& across, double width) {
+    for (int wanted = std::max(1, static_cast<int>(width / 90));; --wanted) {
+        std::vector<Scale::Tick> const ticks = across.Ticks(wanted);
+        bool fits = true;
+        for (std::size_t i = 1; i < ticks.size(); ++i)
+            fits = fits && (ticks[i].place - ticks[i - 1].place) * width >=
+                               (WidthOf(ticks[i]) + WidthOf(ticks[i - 1])) / 2;
+        if (fits || wanted <= 1) return ticks;
+    }
+}
+
+/// Where the plot begins, so that the numbers left of it have room.
+double LeftOf(Scale const& up, double height) {
+    double longest = 0;
+    for (Scale::Tick const& tick : UpTicks(up, height)) longest = std::max(longest, WidthOf(tick));
+    return std::max(plotLeft, 40 + longest);
+}
+
 Frame FrameOf(Picture const& picture) {
     PictureBounds const bounds = BoundsOf(picture);
-    if (!picture.sameScale)
-        return {Scale::Of(bounds.low.x, bounds.high.x, picture.logarithmic),
-                Scale::Rounded(bounds.low.y, bounds.high.y, 6), plotWidth, plotHeight};
+    if (!picture.sameScale) {
+        Scale const up = Scale::Rounded(bounds.low.y, bounds.high.y, 6);
+        double const left = LeftOf(up, plotHeight);
+        return {Scale::Of(bounds.low.x, bounds.high.x, picture.logarithmic), up, left,
+                plotRight - left, plotHeight};
+    }
     double const width = bounds.high.x - bounds.low.x;
     double const height = bounds.high.y - bounds.low.y;
     // A margin around the section, and never so narrow that the numbers find no place.
     double const margin = 0.05 * std::max(width, height);
+    double const fullWidth = plotRight - plotLeft - 60;
     double const unit =
-        std::max((width + 2 * margin) / plotWidth, (height + 2 * margin) / plotHeight);
+        std::max((width + 2 * margin) / fullWidth, (height + 2 * margin) / plotHeight);
     double const across = std::max((width + 2 * margin) / unit, 120.0);
-    double const up = std::max((height + 2 * margin) / unit, 60.0);
+    double const high = std::max((height + 2 * margin) / unit, 60.0);
     double const spareX = (across * unit - width) / 2;
-    double const spareY = (up * unit - height) / 2;
-    return {Scale::Of(bounds.low.x - spareX, bounds.high.x + spareX),
-            Scale::Of(bounds.low.y - spareY, bounds.high.y + spareY), across, up};
+    double const spareY = (high * unit - height) / 2;
+    Scale const up = Scale::Of(bounds.low.y - spareY, bounds.high.y + spareY);
+    return {Scale::Of(bounds.low.x - spareX, bounds.high.x + spareX), up, LeftOf(up, high), across,
+            high};
 }
 
 std::string Text(double x, double y, char const* anchor, std::string const& text,
@@ -106,26 +138,24 @@ std::string Segment(double x0, double y0, double x1, double y1, char const* styl
 }
 
 std::string AxesText(Frame const& frame, Picture const& picture) {
-    double const right = plotLeft + frame.width;
+    double const right = frame.left + frame.width;
     double const bottom = plotTop + frame.height;
     std::string text;
-    for (Scale::Tick const& tick :
-         frame.across.Ticks(std::max(1, static_cast<int>(frame.width / 90)))) {
-        double const x = plotLeft + tick.place * frame.width;
+    for (Scale::Tick const& tick : AcrossTicks(frame.across, frame.width)) {
+        double const x = frame.left + tick.place * frame.width;
         text += Segment(x, plotTop, x, bottom, "grid") + Segment(x, bottom, x, bottom + 5, "axis") +
                 Text(x, bottom + 20, "middle", tick.text);
     }
-    for (Scale::Tick const& tick :
-         frame.up.Ticks(std::max(1, static_cast<int>(frame.height / 55)))) {
+    for (Scale::Tick const& tick : UpTicks(frame.up, frame.height)) {
         double const y = plotTop + (1 - tick.place) * frame.height;
-        text += Segment(plotLeft, y, right, y, "grid") +
-                Segment(plotLeft - 5, y, plotLeft, y, "axis") +
-                Text(plotLeft - 9, y + 4, "end", tick.text);
+        text += Segment(frame.left, y, right, y, "grid") +
+                Segment(frame.left - 5, y, frame.left, y, "axis") +
+                Text(frame.left - 9, y + 4, "end", tick.text);
     }
     double const middle = plotTop + frame.height / 2;
-    return text + "<rect x=\"" + Number(plotLeft) + "\" y=\"" + Number(plotTop) + "\" width=\"" +
+    return text + "<rect x=\"" + Number(frame.left) + "\" y=\"" + Number(plotTop) + "\" width=\"" +
            Number(frame.width) + "\" height=\"" + Number(frame.height) + "\" class=\"axis\"/>\n" +
-           Text(plotLeft + frame.width / 2, bottom + 42, "middle", picture.across) +
+           Text(frame.left + frame.width / 2, bottom + 42, "middle", picture.across) +
            Text(18, middle, "middle", picture.up,
                 " transform=\"rotate(-90 18 " + Number(middle) + ")\"");
 }
@@ -200,7 +230,8 @@ std::string LegendText(Picture const& picture, double top) {
     std::string text;
     for (std::size_t i = 0; i < picture.lines.size() && i < maxLegend; ++i) {
         double const x = plotLeft + static_cast<double>(i % 3) * 200;
-        double const y = top + static_cast<double>(i / 3) * 18;
+        std::size_t const row = i / 3;
+        double const y = top + static_cast<double>(row) * 18;
         bool const rest = i + 1 == maxLegend && picture.lines.size() > maxLegend;
         text += "<path d=\"M" + Number(x) + " " + Number(y - 4) + "h20\" class=\"line\" stroke=\"" +
                 lineColours[i % colourCount] + "\"/>\n" +
@@ -219,7 +250,8 @@ std::string SvgText(Picture const& picture) {
     std::string legend;
     if (picture.lines.size() > 1) {
         legend = LegendText(picture, bottom + 14);
-        bottom += 18.0 * static_cast<double>((std::min(picture.lines.size(), maxLegend) + 2) / 3);
+        std::size_t const rows = (std::min(picture.lines.size(), maxLegend) + 2) / 3;
+        bottom += 18 * static_cast<double>(rows);
     }
     std::string note = picture.note.empty() ? picture.note : "note: " + picture.note;
     if (picture.hasCentroid) note = "The cross is the centroid.";

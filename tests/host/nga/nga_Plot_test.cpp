@@ -189,6 +189,27 @@ TEST(AnSvg, HasTitleAxesAndNumbers) {
     EXPECT_NE(svg.find("fill=\"#fff\""), std::string::npos) << "readable on any page";
 }
 
+TEST(AnSvg, LeavesRoomForLongNumbers) {
+    std::string const svg = SvgText(Curve({{0, 1e9}, {1, 1.00000001e9}}));
+    std::size_t const frame = svg.find("<rect x=\"");
+    double left = 0;
+    std::istringstream(svg.substr(frame + 9)) >> left;
+    // 15 letters, each at least 6 wide.
+    EXPECT_NE(svg.find(">1.000000010e+09<"), std::string::npos) << svg;
+    EXPECT_GT(left, 15 * 6 + 30);
+}
+
+TEST(AnSvg, WritesNoNumbersIntoEachOther) {
+    std::string const svg = SvgText(Curve({{1e9, 0}, {1e9 + 7, 1}}));
+    std::string const place = "\" y=\"410.00\" text-anchor=\"middle\">";
+    std::vector<double> places;
+    for (std::size_t at = svg.find(place); at != std::string::npos; at = svg.find(place, at + 1))
+        places.push_back(std::stod(svg.substr(svg.rfind('"', at - 1) + 1)));
+    ASSERT_GE(places.size(), 2u) << svg;
+    for (std::size_t i = 1; i < places.size(); ++i)
+        EXPECT_GT(places[i] - places[i - 1], 15 * 6) << svg;
+}
+
 TEST(AnSvg, OfOnePointIsADot) { EXPECT_EQ(Count(SvgText(Curve({{1, 1}})), "<circle"), 1); }
 
 TEST(AnSvg, EscapesWhatXmlCannotHold) {
