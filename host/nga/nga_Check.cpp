@@ -189,6 +189,14 @@ std::vector<Finding> Check(mdl_Description const& description, void const* objec
     return findings;
 }
 
+std::string BrokenRule(mdl_Description const& description, void const* object) {
+    std::vector<Finding> const findings = Check(description, object, std::string());
+    if (findings.empty()) return std::string();
+    std::string message = findings.front().message;
+    for (std::size_t at = 0; (at = message.find('\n', at)) != std::string::npos;) message[at] = ' ';
+    return message.empty() ? "one without a message" : message;
+}
+
 std::vector<Finding> Check(Document const& document, CheckDepth depth) {
     std::vector<Finding> findings;
     std::string const root = DocumentPath(document);

@@ -32,6 +32,10 @@ std::vector<Finding> Check(Document const& document, CheckDepth depth = CheckDep
 std::vector<Finding> Check(mdl_Description const& description, void const* object,
                            std::string const& path, CheckDepth depth = CheckDepth::Asked);
 
+/// The message of the first rule that an object of a described class breaks, in one line; empty if
+/// it is valid.
+std::string BrokenRule(mdl_Description const& description, void const* object);
+
 /// The paths of what a document holds under a name that no import lets pass, by name of an object
 /// or of a map's entry: only a file or a program can have brought it in.
 std::vector<std::string> UnusableNames(Document const& document);
