@@ -243,7 +243,7 @@ std::string TextOfVerdict(std::string const& verdict) {
     if (verdict.compare(0, 2, "c~") == 0) {
         std::string content = verdict.substr(2);
         for (char& c : content)
-            if (c == '_') c = ' ';
+            if (c == '+') c = ' ';
         return "Table rate options cannot be specified for this behavior (" + content + ").";
     }
     return Messages().at(std::stoi(verdict));
