@@ -73,11 +73,13 @@ template <class L, class M>
 struct ddr_ElementByValue {
     static M const& ConstGet(L const& list, int index) {
         L const* const present = &list;
-        return present ? list.ConstGet(index) : *static_cast<M const*>(nullptr);
+        M const* const none = nullptr;
+        return present ? list.ConstGet(index) : *none;
     }
     static M& Get(L& list, int index) {
         L* const present = &list;
-        return present ? list.Get(index) : *static_cast<M*>(nullptr);
+        M* const none = nullptr;
+        return present ? list.Get(index) : *none;
     }
 };
 

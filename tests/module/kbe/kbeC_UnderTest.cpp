@@ -116,10 +116,12 @@ void SetOne(mdl_Description const& description, void* object, std::string const&
         SetField(*field, object, value);
     } else if (name[end] == '[') {
         std::size_t const comma = name.find(',');
-        TableAt(*field, object)
-            .Get()
-            .Cell(std::stoi(name.substr(end + 1)), std::stoi(name.substr(comma + 1))) =
-            Number(value, -DBL_MAX, DBL_MAX);
+        int const row = std::stoi(name.substr(end + 1));
+        int const column = std::stoi(name.substr(comma + 1));
+        cow_2DArray<double>& table = TableAt(*field, object);
+        if (row >= table.Rows() || column >= table.Columns())
+            throw std::invalid_argument("no cell " + name);
+        table.Get().Cell(row, column) = Number(value, -DBL_MAX, DBL_MAX);
     } else {
         mdl_FieldType const& type = field->Type();
         if (type.Kind() == mdl_FieldKind::Option && !type.ConstObject(at, 0))

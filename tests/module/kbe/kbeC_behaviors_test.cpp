@@ -614,7 +614,7 @@ TEST_F(ConnectorBehaviors, ABehaviorWritesItsBaseFirstAndReadsItsIdentity) {
     EXPECT_LT(lines.find("minMotion"), lines.find("maxMotion"));
     EXPECT_LT(lines.find("maxMotion"), lines.find("components"));
     // Written once already.
-    EXPECT_EQ(log.Write(stop), "start 0x2A80019\n");
+    EXPECT_EQ(log.Write(stop), "start 0x2A80019 again\n");
 
     WithRebuilt(stop, [&](kbeC_ConnectorStop const& back) {
         EXPECT_EQ(back.uid, stop.uid);

@@ -160,8 +160,9 @@ TEST_F(ConnectorRules, GoOnBehindAnyFailure) {
     for (Line const& line : lines) {
         std::vector<std::vector<Break>> const steps = BreaksOf(line);
         for (std::size_t from = 0; from < steps.size(); ++from) {
+            // From the last, so that no cell is set in a table that an earlier step made narrow.
             Object object(line.className, line.settings);
-            for (std::size_t i = from; i < steps.size(); ++i)
+            for (std::size_t i = steps.size(); i-- > from;)
                 for (Break const& way : steps[i]) object.Set(way.settings);
             object.AllFailures();
         }
@@ -173,6 +174,22 @@ TEST_F(ConnectorRules, GoOnBehindAnyFailure) {
     EXPECT_EQ(damping.AllFailures(),
               (std::vector<std::string>{TextOfVerdict("3"), TextOfVerdict("0"), TextOfVerdict("11"),
                                         "content 1 Damping"}));
+}
+
+// A visitor that knows one table of codes meets a refusal that names something as a failure too.
+TEST_F(ConnectorRules, ARefusalThatNamesSomethingIsAFailureToEveryVisitor) {
+    class Codes final : public mdl_RuleVisitor {
+    public:
+        std::vector<int> codes;
+
+    protected:
+        void Failed(int code) override { codes.push_back(code); }
+        void Object(void const*, int, void const*, mdl_Asked) override {}
+    };
+    Codes visitor;
+    Object const term("kbeC_CDCTerm", "options.rateFactor=0.5");
+    term.As<kbeC_CDCTerm>().Rules(visitor);
+    EXPECT_EQ(visitor.codes, (std::vector<int>{51, 1}));
 }
 
 }  // namespace kbeC_rules_test

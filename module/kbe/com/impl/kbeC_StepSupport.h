@@ -18,7 +18,8 @@ bool IsAbsent(T const& object) {
 
 template <class T>
 T& Absent() {
-    return *static_cast<T*>(nullptr);
+    T* const none = nullptr;
+    return *none;
 }
 
 /// The option as the class that it is taken for, const where it is; another class raises.
