@@ -51,56 +51,61 @@ auto& RequireOwner(Option& option, char const* text) {
 
 }  // namespace
 
-using Options = ddr_StepTraits<kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut>;
-kbeC_ConnectorOptions const& Options::ConstGet(kbeC_ConnectorBehaviorOption const& parent) {
+using OptionsOfBehavior = ddr_StepTraits<kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut>;
+kbeC_ConnectorOptions const& OptionsOfBehavior::ConstGet(
+    kbeC_ConnectorBehaviorOption const& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_ConnectorOptions>();
     return OptionsOf(parent).ConstGet();
 }
-kbeC_ConnectorOptions& Options::Get(kbeC_ConnectorBehaviorOption& parent) {
+kbeC_ConnectorOptions& OptionsOfBehavior::Get(kbeC_ConnectorBehaviorOption& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_ConnectorOptions>();
     return OptionsOf(parent).Get();
 }
 
-using Initiation = ddr_StepTraits<kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut>;
-kbeC_ConnectorOptions const& Initiation::ConstGet(kbeC_ConnectorBehaviorOption const& parent) {
+using InitiationOptions = ddr_StepTraits<kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut>;
+kbeC_ConnectorOptions const& InitiationOptions::ConstGet(
+    kbeC_ConnectorBehaviorOption const& parent) {
     return RequireOwner<kbeC_ConnectorDamage>(parent, kbeNoInitiation).initiationOptions.ConstGet();
 }
-kbeC_ConnectorOptions& Initiation::Get(kbeC_ConnectorBehaviorOption& parent) {
+kbeC_ConnectorOptions& InitiationOptions::Get(kbeC_ConnectorBehaviorOption& parent) {
     return RequireOwner<kbeC_ConnectorDamage>(parent, kbeNoInitiation).initiationOptions.Get();
 }
 
-using Evolution = ddr_StepTraits<kbeC_EvolutionOptionsInConnectorBehaviorOptionShortcut>;
-kbeC_ConnectorOptions const& Evolution::ConstGet(kbeC_ConnectorBehaviorOption const& parent) {
+using EvolutionOptions = ddr_StepTraits<kbeC_EvolutionOptionsInConnectorBehaviorOptionShortcut>;
+kbeC_ConnectorOptions const& EvolutionOptions::ConstGet(
+    kbeC_ConnectorBehaviorOption const& parent) {
     return RequireOwner<kbeC_ConnectorDamage>(parent, kbeNoEvolution).evolutionOptions.ConstGet();
 }
-kbeC_ConnectorOptions& Evolution::Get(kbeC_ConnectorBehaviorOption& parent) {
+kbeC_ConnectorOptions& EvolutionOptions::Get(kbeC_ConnectorBehaviorOption& parent) {
     return RequireOwner<kbeC_ConnectorDamage>(parent, kbeNoEvolution).evolutionOptions.Get();
 }
 
-using Isotropic = ddr_StepTraits<kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut>;
-kbeC_ConnectorOptions const& Isotropic::ConstGet(kbeC_ConnectorBehaviorOption const& parent) {
+using IsotropicOptions = ddr_StepTraits<kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut>;
+kbeC_ConnectorOptions const& IsotropicOptions::ConstGet(
+    kbeC_ConnectorBehaviorOption const& parent) {
     return RequireOwner<kbeC_ConnectorPlasticity>(parent, kbeNoIsotropic)
         .isotropicOptions.ConstGet();
 }
-kbeC_ConnectorOptions& Isotropic::Get(kbeC_ConnectorBehaviorOption& parent) {
+kbeC_ConnectorOptions& IsotropicOptions::Get(kbeC_ConnectorBehaviorOption& parent) {
     return RequireOwner<kbeC_ConnectorPlasticity>(parent, kbeNoIsotropic).isotropicOptions.Get();
 }
 
-using Kinematic = ddr_StepTraits<kbeC_KinematicOptionsInConnectorBehaviorOptionShortcut>;
-kbeC_ConnectorOptions const& Kinematic::ConstGet(kbeC_ConnectorBehaviorOption const& parent) {
+using KinematicOptions = ddr_StepTraits<kbeC_KinematicOptionsInConnectorBehaviorOptionShortcut>;
+kbeC_ConnectorOptions const& KinematicOptions::ConstGet(
+    kbeC_ConnectorBehaviorOption const& parent) {
     return RequireOwner<kbeC_ConnectorPlasticity>(parent, kbeNoKinematic)
         .kinematicOptions.ConstGet();
 }
-kbeC_ConnectorOptions& Kinematic::Get(kbeC_ConnectorBehaviorOption& parent) {
+kbeC_ConnectorOptions& KinematicOptions::Get(kbeC_ConnectorBehaviorOption& parent) {
     return RequireOwner<kbeC_ConnectorPlasticity>(parent, kbeNoKinematic).kinematicOptions.Get();
 }
 
-using OfTerm = ddr_StepTraits<kbeC_ConnectorOptionsInCDCTermShortcut>;
-kbeC_ConnectorOptions const& OfTerm::ConstGet(kbeC_CDCTerm const& parent) {
+using OptionsOfTerm = ddr_StepTraits<kbeC_ConnectorOptionsInCDCTermShortcut>;
+kbeC_ConnectorOptions const& OptionsOfTerm::ConstGet(kbeC_CDCTerm const& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_ConnectorOptions>();
     return parent.options.ConstGet();
 }
-kbeC_ConnectorOptions& OfTerm::Get(kbeC_CDCTerm& parent) {
+kbeC_ConnectorOptions& OptionsOfTerm::Get(kbeC_CDCTerm& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_ConnectorOptions>();
     return parent.options.Get();
 }

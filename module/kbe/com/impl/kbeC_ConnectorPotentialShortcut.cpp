@@ -16,9 +16,9 @@ namespace {
 char const* const kbePotentialSource =
     "generated/module/kbe/com/impl/kbeC_ConnectorPotentialShortcut";
 
-constexpr char const* kbeNoInitiation =
+constexpr char const* kbeNoInitiationPotentials =
     "InitiationPotentials exists only for ConnectorDamage object.";
-constexpr char const* kbeNoEvolution =
+constexpr char const* kbeNoEvolutionPotentials =
     "EvolutionPotentials exists only for ConnectorDamage object.";
 // clang-format off
 constexpr char const* kbeNoPotentials = "ConnectorPotentials exists only for ConnectorFriction or ConnectorPlasticity object.";
@@ -47,21 +47,24 @@ auto& PotentialsOf(Option& option) {
 
 }  // namespace
 
-using Initiation = ddr_StepTraits<kbeC_InitiationPotentialsListInConnectorBehaviorOptionShortcut>;
-kbeC_ConnectorPotentialList const& Initiation::ConstGet(
+using InitiationPotentials =
+    ddr_StepTraits<kbeC_InitiationPotentialsListInConnectorBehaviorOptionShortcut>;
+kbeC_ConnectorPotentialList const& InitiationPotentials::ConstGet(
     kbeC_ConnectorBehaviorOption const& parent) {
-    return RequireDamage(parent, kbeNoInitiation).initiationPotentials;
+    return RequireDamage(parent, kbeNoInitiationPotentials).initiationPotentials;
 }
-kbeC_ConnectorPotentialList& Initiation::Get(kbeC_ConnectorBehaviorOption& parent) {
-    return RequireDamage(parent, kbeNoInitiation).initiationPotentials;
+kbeC_ConnectorPotentialList& InitiationPotentials::Get(kbeC_ConnectorBehaviorOption& parent) {
+    return RequireDamage(parent, kbeNoInitiationPotentials).initiationPotentials;
 }
 
-using Evolution = ddr_StepTraits<kbeC_EvolutionPotentialsListInConnectorBehaviorOptionShortcut>;
-kbeC_ConnectorPotentialList const& Evolution::ConstGet(kbeC_ConnectorBehaviorOption const& parent) {
-    return RequireDamage(parent, kbeNoEvolution).evolutionPotentials;
+using EvolutionPotentials =
+    ddr_StepTraits<kbeC_EvolutionPotentialsListInConnectorBehaviorOptionShortcut>;
+kbeC_ConnectorPotentialList const& EvolutionPotentials::ConstGet(
+    kbeC_ConnectorBehaviorOption const& parent) {
+    return RequireDamage(parent, kbeNoEvolutionPotentials).evolutionPotentials;
 }
-kbeC_ConnectorPotentialList& Evolution::Get(kbeC_ConnectorBehaviorOption& parent) {
-    return RequireDamage(parent, kbeNoEvolution).evolutionPotentials;
+kbeC_ConnectorPotentialList& EvolutionPotentials::Get(kbeC_ConnectorBehaviorOption& parent) {
+    return RequireDamage(parent, kbeNoEvolutionPotentials).evolutionPotentials;
 }
 
 using Potentials = ddr_StepTraits<kbeC_ConnectPotentialsListInConnectorBehaviorOptionShortcut>;

@@ -19,24 +19,25 @@ char const* const kbeDerivedSource = "generated/module/kbe/com/impl/kbeC_Derived
 
 }  // namespace
 
-using OfFriction = ddr_StepTraits<kbeC_DerivedComponentInConnectorBehaviorOptionShortcut>;
-kbeC_DerivedComponent const& OfFriction::ConstGet(kbeC_ConnectorBehaviorOption const& parent) {
+using DerivedOfFriction = ddr_StepTraits<kbeC_DerivedComponentInConnectorBehaviorOptionShortcut>;
+kbeC_DerivedComponent const& DerivedOfFriction::ConstGet(
+    kbeC_ConnectorBehaviorOption const& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_DerivedComponent>();
     return kbe::Cast<kbeC_ConnectorFriction>(parent, kbeDerivedSource, __LINE__)
         .derivedComponent.ConstGet();
 }
-kbeC_DerivedComponent& OfFriction::Get(kbeC_ConnectorBehaviorOption& parent) {
+kbeC_DerivedComponent& DerivedOfFriction::Get(kbeC_ConnectorBehaviorOption& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_DerivedComponent>();
     return kbe::Cast<kbeC_ConnectorFriction>(parent, kbeDerivedSource, __LINE__)
         .derivedComponent.Get();
 }
 
-using OfPotential = ddr_StepTraits<kbeC_DerivedComponentInConnectorPotentialShortcut>;
-kbeC_DerivedComponent const& OfPotential::ConstGet(kbeC_ConnectorPotential const& parent) {
+using DerivedOfPotential = ddr_StepTraits<kbeC_DerivedComponentInConnectorPotentialShortcut>;
+kbeC_DerivedComponent const& DerivedOfPotential::ConstGet(kbeC_ConnectorPotential const& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_DerivedComponent>();
     return parent.derivedComponent.ConstGet();
 }
-kbeC_DerivedComponent& OfPotential::Get(kbeC_ConnectorPotential& parent) {
+kbeC_DerivedComponent& DerivedOfPotential::Get(kbeC_ConnectorPotential& parent) {
     if (kbe::IsAbsent(parent)) return kbe::Absent<kbeC_DerivedComponent>();
     return parent.derivedComponent.Get();
 }
