@@ -198,9 +198,13 @@ std::vector<Finding> Check(Document const& document, CheckDepth depth) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
             if (!description) return;
-            Recorder(findings, budget, depth, *description, object,
-                     EntryPath(root, *collection, key.View()))
-                .Run();
+            std::string const path = EntryPath(root, *collection, key.View());
+            if (int const code = collection->CodeOfName(key.View()); code >= 0) {
+                mdl_Module const& module = *collection->Held().Module();
+                findings.push_back(
+                    {path, module.prefix, code, std::string(module.errorText(code).View()), false});
+            }
+            Recorder(findings, budget, depth, *description, object, path).Run();
         });
     return findings;
 }

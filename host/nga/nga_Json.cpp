@@ -56,13 +56,16 @@ std::vector<Staged> ReadAll(JsonNode const& root) {
         Collection const* collection = Collection::FindByName(member.key);
         if (!collection)
             throw Error("unknown key" + DidYouMean(member.key, known), place.Text(),
-                        member.value.line, "\"materials\", \"loadCases\", \"nga\" or \"schema\"");
+                        member.value.line, Choice(known));
         if (member.value.kind != JsonNode::Kind::Object)
             throw Error(std::string(member.value.KindText()) + " cannot stand here", place.Text(),
                         member.value.line, "an object of names and objects");
         for (JsonMember const& entry : member.value.members) {
             JsonPlace const entryPlace = JsonPlace::Entry(place, entry.key);
             RequireName(entry.key, place.Text(), entry.value.line);
+            if (int const code = collection->CodeOfName(entry.key); code >= 0)
+                throw Error(std::string(collection->Held().Module()->errorText(code).View()),
+                            entryPlace.Text(), entry.value.line, "another name");
             staged.push_back({collection, cow_String(std::string_view(entry.key)),
                               ReadObject(entry.value, entryPlace, collection->Held()),
                               entryPlace.Text(), entry.value.line});

@@ -93,22 +93,25 @@ public:                                                            \
     enum { ddFirst = __COUNTER__ };
 
 /// A concrete class with a parent in the system. Its virtual operations are its root's.
-#define DD_CLASS(Class, Base, id, schemaVersion, script)          \
-    DD_COMMON(Class, id, schemaVersion)                           \
-    DD_SCRIPT(script)                                             \
-    using ddBase = Base;                                          \
-    Base::ddRoot* Copy() const override;                          \
-    void AssertValid() const override;                            \
-    unsigned DynTypeId() const override;                          \
-    void DBWrite(cls_WriteVisitor const& visitor) const override; \
-    DD_CONCRETE(Class)
+#define DD_CLASS(Class, Base, id, schemaVersion, script)        \
+    DD_CLASS_OWN_ASSERT(Class, Base, id, schemaVersion, script) \
+    void AssertValid() const override;
+
+/// The same where the root does not declare AssertValid(): the class says whether its own is
+/// virtual.
+#define DD_CLASS_OWN_ASSERT(Class, Base, id, schemaVersion, script) \
+    DD_DERIVED(Class, Base, id, schemaVersion)                      \
+    DD_SCRIPT(script)
 
 /// The same for a class that scripts do not know.
-#define DD_CLASS_UNSCRIPTED(Class, Base, id, schemaVersion)       \
+#define DD_CLASS_UNSCRIPTED(Class, Base, id, schemaVersion) \
+    DD_DERIVED(Class, Base, id, schemaVersion)              \
+    void AssertValid() const override;
+
+#define DD_DERIVED(Class, Base, id, schemaVersion)                \
     DD_COMMON(Class, id, schemaVersion)                           \
     using ddBase = Base;                                          \
     Base::ddRoot* Copy() const override;                          \
-    void AssertValid() const override;                            \
     unsigned DynTypeId() const override;                          \
     void DBWrite(cls_WriteVisitor const& visitor) const override; \
     DD_CONCRETE(Class)

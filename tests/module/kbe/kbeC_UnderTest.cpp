@@ -133,11 +133,11 @@ void SetOne(mdl_Description const& description, void* object, std::string const&
 
 std::map<int, std::string> const& Messages() {
     static std::map<int, std::string> const messages = {
-#define KBE(code, text) {code, text},
-#define KBE_CONTENT(code, text)
+#define TEXT(code, text) {code, text},
+#define CONTENT(code, text)
 #include "kbeC_messages.inc"
-#undef KBE
-#undef KBE_CONTENT
+#undef TEXT
+#undef CONTENT
     };
     return messages;
 }
