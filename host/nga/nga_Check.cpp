@@ -57,11 +57,12 @@ public:
 
 protected:
     void Failed(int code) override {
-        if (m_failed) return;
-        m_failed = true;
         mdl_Module const& module = *m_description.Module();
-        m_findings.push_back(
-            {Path(), module.prefix, code, std::string(module.errorText(code).View()), m_note});
+        Add(module.prefix, code, module.errorText(code));
+    }
+    void FailedContent(int code, cow_String const& content) override {
+        mdl_Module const& module = *m_description.Module();
+        Add(std::string(module.prefix) + " content", code, module.contentText(code, content));
     }
 
     void Object(void const* member, int index, void const* object, mdl_Asked how) override {
@@ -83,11 +84,11 @@ protected:
     }
 
 private:
-    void Add(nex_Exception const& failure) {
+    void Add(nex_Exception const& failure) { Add(std::string(), -1, failure.UserReport()); }
+    void Add(std::string const& module, int code, atr_String const& message) {
         if (m_failed) return;
         m_failed = true;
-        m_findings.push_back(
-            {Path(), std::string(), -1, std::string(failure.UserReport().View()), m_note});
+        m_findings.push_back({Path(), module, code, std::string(message.View()), m_note});
     }
     /// Asks the objects in all fields that the rules passed over.
     void RunUnasked() {

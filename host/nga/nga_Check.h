@@ -10,7 +10,9 @@ namespace nga {
 /// One object that breaks a rule of its class.
 struct Finding {
     std::string path;
-    std::string module;  ///< prefix of the module whose code it is; empty for a failure without one
+    /// Prefix of the module whose code it is, with " content" behind it for a code of the module's
+    /// texts that name something; empty for a failure without one.
+    std::string module;
     int code = -1;
     std::string message;
     /// Whether no owner asks the object, so that nothing is invalid because of it.
