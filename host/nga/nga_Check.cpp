@@ -65,6 +65,12 @@ protected:
         Add(std::string(module.prefix) + " content", code, module.contentText(code, content));
     }
 
+    void Element(void const* member, int index, ElementRules rules, void const* context) override {
+        // The codes are the owner's, the place is the element's.
+        Recorder inner(*this, m_note, m_description, m_object, member, index);
+        rules(context, inner);
+    }
+
     void Object(void const* member, int index, void const* object, mdl_Asked how) override {
         m_budget.Spend();
         mdl_Description const* description = mdl_Description::Find(how.dynTypeId(object));

@@ -27,8 +27,7 @@ enum class CheckDepth {
 
 /// Asks every named object of the document, as AssertValid() would, but goes on behind a failure:
 /// lists each object's first own failed rule, and before it a name that its kind does not allow.
-/// What a class does not ask is not followed, unless
-/// that is wanted.
+/// What a class does not ask is not followed, unless that is wanted.
 std::vector<Finding> Check(Document const& document, CheckDepth depth = CheckDepth::Asked);
 /// The same for one object of a described class, known by that path.
 std::vector<Finding> Check(mdl_Description const& description, void const* object,

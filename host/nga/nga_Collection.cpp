@@ -6,6 +6,7 @@
 #include "kbpC_BeamProfile.h"
 #include "kflC_Filter.h"
 #include "kmaC_Material.h"
+#include "nga_ConnectorSection.h"
 #include "nga_HostExtension.h"
 
 namespace nga {
@@ -27,18 +28,17 @@ struct InWrapper {
     }
 };
 
-template <auto member>
 struct InHost {
     template <class Repository>
-    static Repository const* Find(ddr_Model const& model, char const*) {
+    static klcC_LoadCaseCont const* Find(ddr_Model const& model, char const*) {
         cow_String const name(HostExtension::extensionCmd());
         if (!model.HasInstance(name)) return nullptr;
-        return &(static_cast<HostExtension const&>(model.ConstGetExtension(name)).*member);
+        return &static_cast<HostExtension const&>(model.ConstGetExtension(name)).loadCases;
     }
     template <class Repository>
-    static Repository& Get(ddr_Model& model, char const*) {
+    static klcC_LoadCaseCont& Get(ddr_Model& model, char const*) {
         cow_String const name(HostExtension::extensionCmd());
-        return static_cast<HostExtension&>(model.GetExtension(name)).*member;
+        return static_cast<HostExtension&>(model.GetExtension(name)).loadCases;
     }
 };
 
@@ -110,9 +110,9 @@ std::vector<Collection const*> const& Collection::All() {
         kbpC_BeamProfile::profileRepositoryCmd());
     static RepositoryCollection<kflC_Filter, InWrapper> const filters(
         kflC_Filter::filterRepositoryCmd(), "Antialiasing", 6);
-    static RepositoryCollection<nga_ConnectorSection, InHost<&HostExtension::sections>> const
-        sections(HostExtension::sectionCmd());
-    static RepositoryCollection<klcC_LoadCase, InHost<&HostExtension::loadCases>> const loadCases(
+    static RepositoryCollection<nga_ConnectorSection, InWrapper> const sections(
+        nga_ConnectorSection::sectionRepositoryCmd());
+    static RepositoryCollection<klcC_LoadCase, InHost> const loadCases(
         klcC_LoadCase::loadCaseCmd());
     static std::vector<Collection const*> const all = {&materials, &amplitudes, &profiles,
                                                        &filters,   &sections,   &loadCases};

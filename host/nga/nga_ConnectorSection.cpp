@@ -91,7 +91,7 @@ private:
             Potentials(option.initiationPotentials);
             if (option.evolution) Potentials(option.evolutionPotentials);
         }
-        if (option.evolution && option.useAffected) Components(option.affectedComponents);
+        if (option.useAffected) Components(option.affectedComponents);
     }
     void Potentials(cow_List<kbeC_ConnectorPotential> const& potentials) {
         using Style = kbeC_ConnectorPotential::ComponentStyleEnm;
@@ -140,8 +140,9 @@ void nga_ConnectorSection::Rules(mdl_RuleVisitor& v) const {
     cow_List<int> available(availableComponents);
     if (available.Size() == 0)
         for (int component = 1; component <= 6; ++component) available.Append(component);
-    Availability availability(v, available);
     for (int i = 0; i < options.Size(); ++i)
         if (kbeC_ConnectorBehaviorOption const* option = options.ConstGet(i).GetPtr())
-            availability.Option(*option);
+            v.About(options, i, [&](mdl_RuleVisitor& ofOption) {
+                Availability(ofOption, available).Option(*option);
+            });
 }

@@ -3,6 +3,7 @@
 #include "kbeC_ConnectorBehaviorOptionList.h"
 #include "kbeC_assert.h"
 #include "mdl_DynamicDestroyer.h"
+#include "mdl_ExtensionWrapper.h"
 #include "mdl_MapString2ObjCow.h"
 
 /// A connector section, as this host keeps it: the behaviours of a connector, and which of its six
@@ -20,6 +21,9 @@ public:
     virtual void DBWrite(cls_WriteVisitor const& visitor) const;
     virtual unsigned DynTypeId() const;
 
+    /// The name of the repository, and of the extension.
+    static constexpr omn_FixedString sectionRepositoryCmd() { return omn_FixedString("sections"); }
+
     /// In the order of the user, which tells nothing.
     DD_FIELD(kbeC_ConnectorBehaviorOptionList, options)
     DD_FIELD(int, stateVariables, 0)  ///< of the user's subroutines
@@ -31,11 +35,19 @@ public:
 template <>
 struct cow_Destroyer<nga_ConnectorSection> : mdl_DynamicDestroyer<nga_ConnectorSection> {};
 
+/// The repository of sections, and the wrapper that makes it an extension of the model.
 using nga_ConnectorSectionContainer = mdl_MapString2ObjCow<nga_ConnectorSection>;
+using nga_CSWrapper = mdl_ExtensionWrapper<nga_ConnectorSectionContainer>;
 
 template <>
 struct mdl_RepositoryTraits<nga_ConnectorSectionContainer> {
     static constexpr unsigned typeId = 0x3840003;
     static constexpr char const* name = "nga_ConnectorSectionContainer";
+    static constexpr int version = 1111;
+};
+template <>
+struct mdl_RepositoryTraits<nga_CSWrapper> {
+    static constexpr unsigned typeId = 0x3840004;
+    static constexpr char const* name = "nga_CSWrapper";
     static constexpr int version = 1111;
 };

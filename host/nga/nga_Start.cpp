@@ -1,6 +1,7 @@
 #include "nga_Start.h"
 
 #include "DDB_NonGeometricAttributes.h"
+#include "nga_ConnectorSection.h"
 #include "nga_HostExtension.h"
 #include "omu_TypeIds.h"
 
@@ -16,6 +17,7 @@ constexpr typ_Entry hostRows[] = {
     /* 1 */ {typ_classKind, mdl_ExtensionTypeId, HostExtension::name},
     /* 2 */ {typ_classKind, typ_root, "nga_ConnectorSection"},
     /* 3 */ {typ_classKind, mdl_RepositoryTypeId, "nga_ConnectorSectionContainer"},
+    /* 4 */ {typ_classKind, mdl_ExtensionTypeId, "nga_CSWrapper"},
 };
 // clang-format on
 
@@ -31,7 +33,12 @@ void Start() {
     ddr_Model::RegisterExtension(cow_String(HostExtension::extensionCmd()), HostExtension());
     cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
     registrar.initClassMetadata(HostExtension::InitializeMetadata, cls_DomainDatabase);
+    ddr_Model::RegisterExtension(cow_String(nga_ConnectorSection::sectionRepositoryCmd()),
+                                 nga_CSWrapper(nga_ConnectorSectionContainer()));
     registrar.initClassMetadata(nga_ConnectorSection::InitializeMetadata, cls_DomainsAll);
+    registrar.initClassMetadata(nga_ConnectorSectionContainer::InitializeMetadata,
+                                cls_DomainLibrary | cls_DomainMemory);
+    registrar.initClassMetadata(nga_CSWrapper::InitializeMetadata, cls_DomainDatabase);
     // A domain's classes, and with them their descriptions, come into being when first asked for.
     registrar.Domain(cls_DomainDatabase);
     started = true;

@@ -56,11 +56,29 @@ public:
         for (int i = 0; i < list.Size(); ++i) AskElement(&list, i, list.ConstGet(i));
     }
 
+    /// Rules that an owner has about one element of a list of its own, such as what the element may
+    /// refer to: a visitor that collects says of the element, and not of the owner, what fails.
+    template <class List, class Rules>
+    void About(List const& list, int index, Rules const& rules) {
+        Element(
+            &list, index,
+            [](void const* context, mdl_RuleVisitor& visitor) {
+                (*static_cast<Rules const*>(context))(visitor);
+            },
+            &rules);
+    }
+
 protected:
+    using ElementRules = void (*)(void const* context, mdl_RuleVisitor& visitor);
+
     ~mdl_RuleVisitor() = default;
     virtual void Failed(int code) = 0;
     /// A visitor that keeps the two tables of codes apart overrides this.
     virtual void FailedContent(int code, cow_String const& /*content*/) { Failed(code); }
+    virtual void Element(void const* /*member*/, int /*index*/, ElementRules rules,
+                         void const* context) {
+        rules(context, *this);
+    }
     /// \p member is the address of the member that holds \p object, \p index its place in a list.
     virtual void Object(void const* member, int index, void const* object, mdl_Asked how) = 0;
 

@@ -77,17 +77,19 @@ std::set<unsigned> OthersRegistered(std::vector<ExpectedClass> const& classes,
 }
 
 void ExpectAttributes(std::vector<ExpectedClass> const& classes) {
-    for (ExpectedClass const& expected : classes) {
-        std::vector<cls_Attribute> const& attributes =
-            DomainOf(cls_DomainDatabase).Find(expected.typeId)->Attributes();
-        ASSERT_EQ(attributes.size(), expected.fields.size()) << expected.name;
-        for (std::size_t i = 0; i < attributes.size(); ++i) {
-            SCOPED_TRACE(expected.name + "::" + expected.fields[i].name);
-            EXPECT_STREQ(attributes[i].field.Name().Text(), expected.fields[i].name.c_str());
-            EXPECT_EQ(attributes[i].field.Index(), static_cast<int>(i));
-            EXPECT_EQ(attributes[i].type, expected.fields[i].type);
-            EXPECT_EQ(attributes[i].arg, expected.fields[i].arg);
-            EXPECT_EQ(attributes[i].collection, expected.fields[i].collection);
+    for (cls_MetadataDomain domain : domains) {
+        for (ExpectedClass const& expected : classes) {
+            std::vector<cls_Attribute> const& attributes =
+                DomainOf(domain).Find(expected.typeId)->Attributes();
+            ASSERT_EQ(attributes.size(), expected.fields.size()) << expected.name;
+            for (std::size_t i = 0; i < attributes.size(); ++i) {
+                SCOPED_TRACE(expected.name + "::" + expected.fields[i].name);
+                EXPECT_STREQ(attributes[i].field.Name().Text(), expected.fields[i].name.c_str());
+                EXPECT_EQ(attributes[i].field.Index(), static_cast<int>(i));
+                EXPECT_EQ(attributes[i].type, expected.fields[i].type);
+                EXPECT_EQ(attributes[i].arg, expected.fields[i].arg);
+                EXPECT_EQ(attributes[i].collection, expected.fields[i].collection);
+            }
         }
     }
 }

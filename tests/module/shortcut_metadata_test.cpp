@@ -24,6 +24,45 @@ Row const rows[] = {
     {ddr_ModelShortcut::InitializeMetadata,                              0x140002, "ddr_ModelShortcut", 1, "s", 0x140003, smallTable, true},
     {ddr_ModelImplShortcut::InitializeMetadata,                          0x140003, "ddr_ModelIMPLSC", 1, "", none, smallTable, false},
     {ddr_ModelInSessionShortcut::InitializeMetadata,                     0x140004, "ddr_ModelInSessionShortcut", 0x140003, "n", none, smallTable, true},
+    // The names of this component are those of the table's rows, which stand one or two further
+    // than the numbers of its classes.
+    {kbeC_ConnectorBehaviorOptionIMPLSC::InitializeMetadata, 0x2A80010, "kbeC_ConnectorBehaviorOptionIMPLSC", 1, "", none, smallTable, false},
+    {kbeC_BehaviorOptionInBehaviorOptionContainerShortcut::InitializeMetadata, 0x2A80011, "kbeC_BehaviorOptionInBehaviorOptionContainerShortcut", 0x2A80010, "ip", 0x2A80013, mediumTable, true},
+    {kbeC_BehaviorOptionContainerShortcut::InitializeMetadata, 0x2A80013, "kbeC_BehaviorOptionContainerShortcut", 1, "s", 0x2A80014, smallTable, true},
+    {kbeC_BehaviorOptionContainerIMPLSC::InitializeMetadata, 0x2A80014, "kbeC_BehaviorOptionContainerIMPLSC", 1, "", none, smallTable, false},
+    {kbeC_ConnectorPotentialShortcut::InitializeMetadata, 0x2A80020, "kbeC_ConnectorPotentialShortcut", 1, "s", 0x2A80024, smallTable, true},
+    {kbeC_ConnectorPotentialListShortcut::InitializeMetadata, 0x2A80022, "kbeC_ConnectorPotentialInConnectorPotentialListShortcut", 1, "s", 0x2A80025, smallTable, true},
+    {kbeC_ConnectorPotentialInConnectorPotentialListShortcut::InitializeMetadata, 0x2A80023, "kbeC_ConnectorPotentialListIMPLSC", 0x2A80024, "ip", 0x2A80022, mediumTable, true},
+    {kbeC_ConnectorPotentialIMPLSC::InitializeMetadata, 0x2A80024, "kbeC_ConnectorPotentialListIMPLSC", 1, "", none, smallTable, false},
+    {kbeC_ConnectorPotentialListIMPLSC::InitializeMetadata, 0x2A80025, "kbeC_InitiationPotentialsListInConnectorBehaviorOptionShortcut", 1, "", none, smallTable, false},
+    {kbeC_InitiationPotentialsListInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80026, "kbeC_EvolutionPotentialsListInConnectorBehaviorOptionShortcut", 0x2A80025, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_EvolutionPotentialsListInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80027, "kbeC_ConnectPotentialsListInConnectorBehaviorOptionShortcut", 0x2A80025, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_ConnectPotentialsListInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80028, "kbeC_ConnectPotentialsListInConnectorFrictionShortcut", 0x2A80025, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_TangentialBehaviorShortcut::InitializeMetadata, 0x2A8002A, "kbeC_TangentialBehaviorIMPLSC", 1, "s", 0x2A8002B, smallTable, true},
+    {kbeC_TangentialBehaviorIMPLSC::InitializeMetadata, 0x2A8002B, "kbeC_TangentialBehaviorInConnectorBehaviorOptionShortcut", 1, "", none, smallTable, false},
+    {kbeC_TangentialBehaviorInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A8002C, "kbeC_ConnectorBehaviorOptionList", 0x2A8002B, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_DerivedComponentShortcut::InitializeMetadata, 0x2A8002F, "kbeC_CDCTerm", 1, "s", 0x2A80030, smallTable, true},
+    {kbeC_DerivedComponentIMPLSC::InitializeMetadata, 0x2A80030, "kbeC_DerivedComponent", 1, "", none, smallTable, false},
+    {kbeC_DerivedComponentInConnectorPotentialShortcut::InitializeMetadata, 0x2A80031, "kbeC_DerivedComponentShortcut", 0x2A80030, "p", 0x2A80020, mediumTable, true},
+    {kbeC_DerivedComponentInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80032, "kbeC_DerivedComponentIMPLSC", 0x2A80030, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_CDCTermIMPLSC::InitializeMetadata, 0x2A80033, "kbeC_DerivedComponentInConnectorPotentialShortcut", 1, "", none, smallTable, false},
+    {kbeC_CDCTermInCDCTermListShortcut::InitializeMetadata, 0x2A80034, "kbeC_DerivedComponentInConnectorBehaviorOptionShortcut", 0x2A80033, "ip", 0x2A80036, mediumTable, true},
+    {kbeC_CDCTermShortcut::InitializeMetadata, 0x2A80035, "kbeC_CDCTermIMPLSC", 1, "s", 0x2A80033, smallTable, true},
+    {kbeC_CDCTermListShortcut::InitializeMetadata, 0x2A80036, "kbeC_CDCTermInCDCTermListShortcut", 1, "s", 0x2A80037, smallTable, true},
+    {kbeC_CDCTermListIMPLSC::InitializeMetadata, 0x2A80037, "kbeC_CDCTermShortcut", 1, "", none, smallTable, false},
+    {kbeC_CdcTermsListInDerivedComponentShortcut::InitializeMetadata, 0x2A80038, "kbeC_CDCTermListShortcut", 0x2A80037, "p", 0x2A8002F, mediumTable, true},
+    {kbeC_ConnectorBehaviorOptionListShortcut::InitializeMetadata, 0x2A8003A, "kbeC_CdcTermsListInDerivedComponentShortcut", 1, "s", 0x2A8003B, smallTable, true},
+    {kbeC_ConnectorBehaviorOptionListIMPLSC::InitializeMetadata, 0x2A8003B, "kbeC_ConnectorBehaviorOptionList", 1, "", none, smallTable, false},
+    {kbeC_ConnectorBehaviorOptionInConnectorBehaviorListShortcut::InitializeMetadata, 0x2A8003C, "kbeC_ConnectorBehaviorOptionListShortcut", 0x2A80010, "ip", 0x2A8003A, mediumTable, true},
+    {kbeC_ConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A8003D, "kbeC_ConnectorBehaviorOptionListIMPLSC", 1, "s", 0x2A80010, smallTable, true},
+    {kbeC_ConnectorOptionsShortcut::InitializeMetadata, 0x2A8003F, "kbeC_ConnectorBehaviorOptionShortcut", 1, "s", 0x2A80040, smallTable, true},
+    {kbeC_ConnectorOptionsIMPLSC::InitializeMetadata, 0x2A80040, "kbeC_ConnectorOptions", 1, "", none, smallTable, false},
+    {kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80041, "kbeC_ConnectorOptionsShortcut", 0x2A80040, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80042, "kbeC_ConnectorOptionsIMPLSC", 0x2A80040, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_EvolutionOptionsInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80043, "kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut", 0x2A80040, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80044, "kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut", 0x2A80040, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_KinematicOptionsInConnectorBehaviorOptionShortcut::InitializeMetadata, 0x2A80045, "kbeC_EvolutionOptionsInConnectorBehaviorOptionShortcut", 0x2A80040, "p", 0x2A8003D, mediumTable, true},
+    {kbeC_ConnectorOptionsInCDCTermShortcut::InitializeMetadata, 0x2A80046, "kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut", 0x2A80040, "p", 0x2A80035, mediumTable, true},
     {kmaC_MaterialShortcut::InitializeMetadata,                          0x2380067, "kmaC_MaterialShortcut", 1, "s", 0x2380069, smallTable, true},
     {kmaC_MaterialInMaterialContainerShortcut::InitializeMetadata,       0x2380068, "kmaC_MaterialInMaterialContainerShortcut", 0x2380069, "np", 0x238006A, smallTable, true},
     {kmaC_MaterialIMPLSC::InitializeMetadata,                            0x2380069, "kmaC_MaterialIMPLSC", 1, "", none, smallTable, false},
@@ -210,6 +249,29 @@ TEST_F(ShortcutMetadata, EveryClassIsRebuiltFromWhatItWrites) {
     kflC_FilterShortcut const filter(new kflC_FilterInFilterContainerShortcut(filters, "low"));
     EXPECT_TRUE(Rebuilt(filters) == filters);
     EXPECT_TRUE(Rebuilt(filter) == filter);
+
+    kbeC_ConnectorBehaviorOptionShortcut const behaviour(
+        new kbeC_ConnectorBehaviorOptionInConnectorBehaviorListShortcut(
+            kbeC_ConnectorBehaviorOptionListShortcut(), 3));
+    EXPECT_TRUE(Rebuilt(behaviour) == behaviour);
+    kbeC_ConnectorBehaviorOptionShortcut const numbered(
+        new kbeC_BehaviorOptionInBehaviorOptionContainerShortcut(
+            kbeC_BehaviorOptionContainerShortcut(), -7));
+    EXPECT_TRUE(Rebuilt(numbered) == numbered);
+    kbeC_ConnectorPotentialListShortcut const potentials(
+        new kbeC_EvolutionPotentialsListInConnectorBehaviorOptionShortcut(behaviour));
+    kbeC_ConnectorPotentialShortcut const potential(
+        new kbeC_ConnectorPotentialInConnectorPotentialListShortcut(potentials, 1));
+    kbeC_DerivedComponentShortcut const derived(
+        new kbeC_DerivedComponentInConnectorPotentialShortcut(potential));
+    kbeC_CDCTermListShortcut const terms(new kbeC_CdcTermsListInDerivedComponentShortcut(derived));
+    kbeC_CDCTermShortcut const term(new kbeC_CDCTermInCDCTermListShortcut(terms, 0));
+    kbeC_ConnectorOptionsShortcut const options(new kbeC_ConnectorOptionsInCDCTermShortcut(term));
+    EXPECT_TRUE(Rebuilt(options) == options);
+    EXPECT_EQ(Rebuilt(options).Path(), options.Path());
+    kbeC_TangentialBehaviorShortcut const law(
+        new kbeC_TangentialBehaviorInConnectorBehaviorOptionShortcut(behaviour));
+    EXPECT_TRUE(Rebuilt(law) == law);
 
     klcC_LoadCaseShortcut const loadCase(
         new klcC_LoadCaseInLoadCaseContShortcut(klcC_LoadCaseContShortcut(), "dead load"));

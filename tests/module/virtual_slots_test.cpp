@@ -85,4 +85,57 @@ TEST(VirtualSlots, OfMaterialOptionsBeginWithTheDestructor) {
     EXPECT_EQ(SlotOf(&kmaC_MaterialOption::DBWrite), 5);
 }
 
+TEST(VirtualSlots, OfMaterialTables) {
+    EXPECT_EQ(SlotOf(&kmaC_MaterialTable::DynTypeId), 0);
+    EXPECT_EQ(SlotOf(&kmaC_MaterialTable::DBWrite), 1);
+    static_assert(!std::has_virtual_destructor_v<kmaC_MaterialTable>);
+}
+
+using Behaviour = kbeC_ConnectorBehaviorOption;
+
+template <class C>
+void ExpectSlotsOfABehaviour() {
+    using Comparison = bool (C::*)(Behaviour const&) const;
+    EXPECT_EQ(SlotOf(&C::AssertValid), 0);
+    EXPECT_EQ(SlotOf(static_cast<Comparison>(&C::operator==)), 1);
+    EXPECT_EQ(SlotOf(static_cast<Comparison>(&C::operator!=)), 2);
+    EXPECT_EQ(SlotOf(&C::Copy), 3);
+    EXPECT_EQ(SlotOf(&C::DBWrite), 4);
+    EXPECT_EQ(SlotOf(&C::DynTypeId), 5);
+    static_assert(!std::has_virtual_destructor_v<C>);
+}
+
+TEST(VirtualSlots, OfConnectorBehaviours) {
+    ExpectSlotsOfABehaviour<Behaviour>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorElasticity>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorDamping>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorStop>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorLock>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorFailure>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorFriction>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorPlasticity>();
+    ExpectSlotsOfABehaviour<kbeC_ConnectorDamage>();
+}
+
+template <class C>
+void ExpectSlotsOfAPart() {
+    EXPECT_EQ(SlotOf(&C::AssertValid), 0);
+    EXPECT_EQ(SlotOf(&C::Copy), 1);
+    EXPECT_EQ(SlotOf(&C::DBWrite), 2);
+    EXPECT_EQ(SlotOf(&C::DynTypeId), 3);
+}
+
+TEST(VirtualSlots, OfThePartsOfConnectorBehaviours) {
+    ExpectSlotsOfAPart<kbeC_ConnectorOptions>();
+    ExpectSlotsOfAPart<kbeC_TangentialBehavior>();
+    ExpectSlotsOfAPart<kbeC_ConnectorPotential>();
+    ExpectSlotsOfAPart<kbeC_DerivedComponent>();
+    ExpectSlotsOfAPart<kbeC_CDCTerm>();
+    static_assert(std::has_virtual_destructor_v<kbeC_ContactForce>);
+    EXPECT_EQ(SlotOf(&kbeC_ContactForce::Copy), 2);
+    EXPECT_EQ(SlotOf(&kbeC_ContactForce::AssertValid), 3);
+    EXPECT_EQ(SlotOf(&kbeC_ContactForce::DynTypeId), 4);
+    EXPECT_EQ(SlotOf(&kbeC_ContactForce::DBWrite), 5);
+}
+
 }  // namespace virtual_slots_test

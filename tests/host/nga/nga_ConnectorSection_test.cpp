@@ -5,9 +5,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "DDB_NonGeometricAttributes.h"
 #include "host/cli/tool_runner.h"
-#include "kbeC_ConnectorLock.h"
-#include "nex_TextException.h"
 #include "nga_Check.h"
 #include "nga_Document.h"
 #include "nga_Error.h"
@@ -47,9 +46,9 @@ std::string Raised(std::string const& members) {
     } catch (nex_TextException const& failure) {
         raised = failure.UserReport().Text();
     }
-    // The check that collects begins with the same failure, whoever's it is.
+    // The check that collects begins with the same failure.
     std::vector<nga::Finding> const findings = nga::Check(document);
-    EXPECT_EQ(findings.empty(), raised.empty()) << members;
+    EXPECT_EQ(findings.empty() ? std::string() : findings.front().message, raised) << members;
     return raised;
 }
 std::string RaisedBy(std::string const& option, std::string const& available) {
@@ -139,6 +138,8 @@ TEST(ConnectorSection, EveryBehaviourIsHeldToTheAvailableComponents) {
         "\"evolutionTable\": [[1]]}",
         "{\"class\": \"ConnectorDamage\", \"components\": [1], \"useAffected\": true, "
         "\"affectedComponents\": [3], \"initiationTable\": [[1, 2]], \"evolutionTable\": [[1]]}",
+        "{\"class\": \"ConnectorDamage\", \"components\": [1], \"useAffected\": true, "
+        "\"affectedComponents\": [3], \"initiationTable\": [[1, 2]], \"evolution\": false}",
         "{\"class\": \"ConnectorDamage\", \"coupling\": \"COUPLED\", "
         "\"initiationPotentials\": [{\"componentNumber\": 3}], \"initiationTable\": [[1, 2]], "
         "\"evolutionTable\": [[1]]}",
@@ -169,8 +170,11 @@ TEST(ConnectorSection, WhatIsSwitchedOffIsNotHeldToThem) {
           "{\"class\": \"ConnectorPlasticity\", \"coupling\": \"COUPLED\", \"components\": [3], "
           "\"isotropicTable\": [[1, 0, 0]]}",
           "{\"class\": \"ConnectorDamage\", \"components\": [1], \"evolution\": false, "
-          "\"useAffected\": true, \"affectedComponents\": [3], "
           "\"evolutionPotentials\": [{\"componentNumber\": 3}], \"initiationTable\": [[1, 2]]}",
+          "{\"class\": \"ConnectorDamage\", \"coupling\": \"COUPLED\", \"evolution\": false, "
+          "\"evolutionPotentials\": [{\"componentNumber\": 3}], \"initiationTable\": [[1, 2]]}",
+          "{\"class\": \"ConnectorElasticity\", \"behavior\": \"RIGID\", \"coupling\": "
+          "\"COUPLED\", \"components\": [1], \"independentComponents\": [3]}",
           "{\"class\": \"ConnectorDamage\", \"components\": [1], \"affectedComponents\": [3], "
           "\"initiationPotentials\": [{\"componentNumber\": 3}], \"initiationTable\": [[1, 2]], "
           "\"evolutionTable\": [[1]]}",
@@ -198,6 +202,9 @@ TEST(ConnectorSection, ADerivedComponentThatAStyleAsksForMustBeThere) {
               potential + "}",
           "{\"class\": \"ConnectorDamage\", \"coupling\": \"COUPLED\", \"initiationTable\": "
           "[[1, 2]], \"evolutionTable\": [[1]], \"initiationPotentials\": " +
+              potential + "}",
+          "{\"class\": \"ConnectorDamage\", \"coupling\": \"COUPLED\", \"initiationTable\": "
+          "[[1, 2]], \"evolutionTable\": [[1]], \"evolutionPotentials\": " +
               potential + "}"})
         EXPECT_EQ(RaisedBy(option, "[]"), absentPotential) << option;
 }
@@ -223,21 +230,86 @@ TEST(ConnectorSection, DerivedComponentsUseAvailableComponentsOnly) {
         "\"derivedComponent\": {\"cdcTerms\": [{\"intrinsicComponents\": [3]}]}}]}";
     EXPECT_EQ(RaisedBy(potential, "[3]"), "");
     EXPECT_EQ(RaisedBy(potential, "[1, 2]"), unavailableDerived);
+    std::string const localPotential =
+        "{\"class\": \"ConnectorPlasticity\", \"coupling\": \"COUPLED\", \"isotropicTable\": "
+        "[[1, 0, 0]], \"connectorPotentials\": [{\"componentStyle\": \"DERIVED_COMPONENT\", "
+        "\"derivedComponent\": {\"cdcTerms\": [{\"intrinsicComponents\": [1], "
+        "\"localDependency\": true, \"indepComponents\": [3]}]}}]}";
+    EXPECT_EQ(RaisedBy(localPotential, "[1, 3]"), "");
+    EXPECT_EQ(RaisedBy(localPotential, "[1]"), unavailableDerived);
 }
 
 TEST(ConnectorSection, FindingsNameTheSectionOrTheBehaviour) {
-    Document const document = WithSection("\"options\": [" + linear +
-                                          ", {\"class\": \"ConnectorStop\"}], "
-                                          "\"availableComponents\": [2]");
+    Document const document = WithSection("\"stateVariables\": -1, \"options\": [" + linear +
+                                          ", {\"class\": \"ConnectorStop\"}, " + linear +
+                                          "], \"availableComponents\": [2]");
     std::vector<nga::Finding> const findings = nga::Check(document);
-    ASSERT_EQ(findings.size(), 2u);
-    EXPECT_EQ(findings[0].path, "documents['m'].sections['s'].options[1]");
+    std::string const section = "documents['m'].sections['s']";
+    ASSERT_EQ(findings.size(), 4u);
+    EXPECT_EQ(findings[0].path, section);
     EXPECT_EQ(findings[0].module, "kbe");
-    EXPECT_EQ(findings[0].code, 3);
-    EXPECT_EQ(findings[1].path, "documents['m'].sections['s']");
-    EXPECT_EQ(findings[1].module, "kbe content");
-    EXPECT_EQ(findings[1].code, 0);
-    EXPECT_EQ(findings[1].message, Unavailable("2"));
+    EXPECT_EQ(findings[0].code, 27);
+    EXPECT_EQ(findings[1].path, section + ".options[1]");
+    EXPECT_EQ(findings[1].module, "kbe");
+    EXPECT_EQ(findings[1].code, 3);
+    // Each behaviour is told by itself.
+    EXPECT_EQ(findings[2].path, section + ".options[0]");
+    EXPECT_EQ(findings[3].path, section + ".options[2]");
+    for (std::size_t i : {2u, 3u}) {
+        EXPECT_EQ(findings[i].module, "kbe content");
+        EXPECT_EQ(findings[i].code, 0);
+        EXPECT_EQ(findings[i].message, Unavailable("2"));
+    }
+}
+
+TEST(ConnectorSection, AGapAmongTheBehavioursIsKeptAndAskedNothing) {
+    TemporaryFolder const folder;
+    Document document = WithSection("\"options\": [null, " + linear + "]");
+    EXPECT_TRUE(nga::Check(document).empty());
+    std::string const text = nga::ExportJson(document);
+    document.SaveAs(folder.Path("m.nga"));
+    Document const opened = Document::Open(folder.Path("m.nga"));
+    EXPECT_EQ(nga::ExportJson(opened), text);
+    EXPECT_EQ(SectionOf(opened, "s").options.ConstGet(0).GetPtr(), nullptr);
+    EXPECT_NE(SectionOf(opened, "s").options.ConstGet(1).GetPtr(), nullptr);
+}
+
+TEST(ConnectorSection, IsAnExtensionOfItsOwnSoThatFilesWithoutSectionsStayAsTheyAre) {
+    nga::Start();
+    cls_ClassRegistrar const& classes =
+        omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
+    cls_ClassMetadata const* wrapper = classes.Find(0x3840004);
+    ASSERT_NE(wrapper, nullptr);
+    EXPECT_STREQ(wrapper->Name().Text(), "nga_CSWrapper");
+    EXPECT_STREQ(typ_ArchCompTable::GetName(0x3840004), "nga_CSWrapper");
+    cls_ClassMetadata const* section = classes.Find(0x3840002);
+    ASSERT_NE(section, nullptr);
+    EXPECT_STREQ(section->Name().Text(), "nga_ConnectorSection");
+    EXPECT_STREQ(typ_ArchCompTable::GetName(0x3840002), "nga_ConnectorSection");
+    EXPECT_EQ(section->Version(), 1111);
+    ASSERT_EQ(section->Attributes().size(), 3u);
+    char const* const fields[] = {"options", "stateVariables", "availableComponents"};
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_STREQ(section->Attributes()[i].field.Name().Text(), fields[i]);
+    EXPECT_FALSE(Document::New("m").Model().HasInstance(
+        cow_String(nga_ConnectorSection::sectionRepositoryCmd())));
+}
+
+TEST(ConnectorSection, TheToolTellsAFindingWithItsPlace) {
+    TemporaryFolder const folder;
+    std::string const file =
+        folder.Write("m.json", "{\"sections\": {\"s\": {\"options\": [" + linear +
+                                   "], \"availableComponents\": [2, 5]}}}");
+    ToolRun const text = RunNga({"check", file});
+    EXPECT_EQ(text.code, 1);
+    EXPECT_EQ(text.out, "documents['m'].sections['s'].options[0]: kbe content 0: " +
+                            Unavailable("2, 5") + "\n");
+    ToolRun const json = RunNga({"check", file, "--json"});
+    EXPECT_EQ(json.code, 1);
+    EXPECT_NE(json.out.find("\"module\": \"kbe content\""), std::string::npos) << json.out;
+    ToolRun const shown = RunNga({"show", file, "documents['m'].sections['s'].options[0]"});
+    EXPECT_EQ(shown.code, 0);
+    EXPECT_NE(shown.out.find("kbeC_ConnectorElasticity"), std::string::npos) << shown.out;
 }
 
 TEST(ConnectorSection, ALiteralStandsForAllComponentsInTextsAndIsShown) {

@@ -36,8 +36,9 @@ TEST_F(ConnectorFacts, OneClassIsWrittenAndNotRead) {
     }
 }
 
-TEST_F(ConnectorFacts, AFieldOfAContactForceHasTwoNamesForItsCommand) {
+TEST_F(ConnectorFacts, AContactForceNamesItsDataThoughItHasNoFieldOfThatName) {
     EXPECT_STREQ(kbeC_ContactForce::dataCmd().Text(), "data");
+    EXPECT_EQ(kbeC_ContactForce::Description().FindScript("data"), nullptr);
 }
 
 }  // namespace kbeC_facts_test
