@@ -1,6 +1,7 @@
 #include "kflC_module.h"
 
 #include "kflC_ArchEntry.h"
+#include "kflC_oldClasses.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
 
@@ -13,6 +14,7 @@ uti_Guard kflGuard;
 void kflC_initialize(int& count) {
     if (!kflGuard.Raise(count)) return;
     typ_ArchCompTable::InsertEntry(kflC_component, kflC_ArchEntry());
+    kflC_RegisterOldClasses();
 }
 
 void kflC_finalize(int& count) { kflGuard.Lower(count); }
