@@ -81,9 +81,9 @@ public:
     int Array(int columns, std::vector<double> const& values,
               int kind = cls_CollectionArray2DDouble) {
         if (!m_store.FindTable(cls_ListTypeId)) Table(rom_Layout::OfList());
-        return Row(cls_ListTypeId, {{"Target#Handle", Bytes(values)},
-                                    {"Target#Columns", columns},
-                                    {"Target#Kind", kind}});
+        return Row(
+            cls_ListTypeId,
+            {{"Target#Handle", Bytes(values)}, {"Target#Columns", columns}, {"Target#Kind", kind}});
     }
 
 private:
@@ -93,10 +93,10 @@ private:
 /// What an upgrade makes of a database in memory.
 class Upgraded {
 public:
-    Upgraded(rfm_Database& original, cls_ClassRegistrar const& current,
-             dbc_OldClassRegistrar const& oldClasses =
-                 omi_Singleton<dbc_OldClassRegistrar>::Instance(),
-             dbc_UpgradeOptions const& options = {})
+    Upgraded(
+        rfm_Database& original, cls_ClassRegistrar const& current,
+        dbc_OldClassRegistrar const& oldClasses = omi_Singleton<dbc_OldClassRegistrar>::Instance(),
+        dbc_UpgradeOptions const& options = {})
         : m_store(original) {
         dbc_Upgrade upgrade(original, m_store, current, oldClasses, options);
         m_report = upgrade.Run();
