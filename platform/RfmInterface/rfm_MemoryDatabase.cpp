@@ -109,7 +109,7 @@ std::unique_ptr<rfm_Array<double, 4>> rfm_Database::ArrayDouble(int, int, int) {
 
 rfm_MemoryDatabase::rfm_MemoryDatabase() = default;
 
-rfm_MemoryDatabase::rfm_MemoryDatabase(rfm_Database& other) {
+void rfm_MemoryDatabase::CopyFrom(rfm_Database& other) {
     std::vector<rfm_Value> values;
     for (rfm_Table* from : other.Tables()) {
         rfm_Table& to = CreateTable(from->Metadata());

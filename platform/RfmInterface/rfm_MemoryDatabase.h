@@ -9,8 +9,8 @@
 class rfm_MemoryDatabase : public rfm_WorkDatabase {
 public:
     rfm_MemoryDatabase();
-    /// With all that another store holds.
-    explicit rfm_MemoryDatabase(rfm_Database& other);
+    /// Takes over all that another store holds; this one is empty.
+    void CopyFrom(rfm_Database& other);
     ~rfm_MemoryDatabase() override;
     rfm_Table* FindTable(unsigned typeId) override;
     rfm_Table& CreateTable(rfm_TableMetadata const& metadata) override;

@@ -96,8 +96,8 @@ public:
     Upgraded(
         rfm_Database& original, cls_ClassRegistrar const& current,
         dbc_OldClassRegistrar const& oldClasses = omi_Singleton<dbc_OldClassRegistrar>::Instance(),
-        dbc_UpgradeOptions const& options = {})
-        : m_store(original) {
+        dbc_UpgradeOptions const& options = {}) {
+        m_store.CopyFrom(original);
         dbc_Upgrade upgrade(original, m_store, current, oldClasses, options);
         m_report = upgrade.Run();
     }
