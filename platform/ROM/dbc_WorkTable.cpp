@@ -122,7 +122,7 @@ void dbc_WorkTable::PrepareWrite(int oid) {
     m_unset.clear();
     if (m_frozen && m_frozen == m_work && !m_successor && oid < m_frozenRows) {
         // The input is what stands here, and must go on to be read as it is.
-        rfm_Table& successor = m_tables.Work().MakeSuccessor(m_work->Metadata());
+        rfm_Table& successor = m_tables.Work().MakeSuccessor(m_work->Metadata(), true);
         std::vector<rfm_Value> values(m_work->Metadata().Columns().size());
         std::unique_ptr<rfm_Cursor> const cursor = m_work->OpenCursor();
         for (int row = 0, rows = m_work->RowCount(); row < rows; ++row) {
@@ -138,7 +138,7 @@ void dbc_WorkTable::PrepareWrite(int oid) {
 }
 
 void dbc_WorkTable::StartRewrite(rfm_TableMetadata const& layout) {
-    m_successor = &m_tables.Work().MakeSuccessor(layout);
+    m_successor = &m_tables.Work().MakeSuccessor(layout, m_frozen == m_work);
     m_stepping = true;
     m_streamed = 0;
     m_touched = true;

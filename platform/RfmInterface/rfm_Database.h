@@ -59,10 +59,10 @@ public:
 /// A store that begins as a copy of another and becomes its successor, table by table.
 class rfm_WorkDatabase : public rfm_Database {
 public:
-    /// Makes a table that is to take the place of the one of its TypeId, if there is one. Until
-    /// \ref Settle, FindTable gives the former table. There is one such table of a TypeId at a
-    /// time.
-    virtual rfm_Table& MakeSuccessor(rfm_TableMetadata const& metadata) = 0;
+    /// Makes a table that is to take the place of the one of its TypeId, if there is one. With \p
+    /// keepFormer, the former table can be read until \ref Settle; else it ends now, which saves
+    /// the room for both. There is one such table of a TypeId at a time.
+    virtual rfm_Table& MakeSuccessor(rfm_TableMetadata const& metadata, bool keepFormer) = 0;
     /// Puts the successor in the former table's place. No cursor on either is open; pointers to the
     /// former table end, those to the successor stay good.
     virtual void Settle(unsigned typeId) = 0;

@@ -144,12 +144,13 @@ std::vector<rfm_Table*> rfm_MemoryDatabase::Tables() {
     return result;
 }
 
-rfm_Table& rfm_MemoryDatabase::MakeSuccessor(rfm_TableMetadata const& metadata) {
+rfm_Table& rfm_MemoryDatabase::MakeSuccessor(rfm_TableMetadata const& metadata, bool keepFormer) {
     auto [place, made] = m_successors.try_emplace(metadata.TypeId());
     if (!made)
         nex_TextException(atr_raw("A table was to get two successors at once."))
             .Throw("platform/RfmInterface/rfm_MemoryDatabase", __LINE__);
     place->second = std::make_unique<MemoryTable>(metadata);
+    if (!keepFormer) m_tables.erase(metadata.TypeId());
     return *place->second;
 }
 

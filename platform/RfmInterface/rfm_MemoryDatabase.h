@@ -15,7 +15,7 @@ public:
     rfm_Table* FindTable(unsigned typeId) override;
     rfm_Table& CreateTable(rfm_TableMetadata const& metadata) override;
     std::vector<rfm_Table*> Tables() override;
-    rfm_Table& MakeSuccessor(rfm_TableMetadata const& metadata) override;
+    rfm_Table& MakeSuccessor(rfm_TableMetadata const& metadata, bool keepFormer) override;
     void Settle(unsigned typeId) override;
     void DropTable(unsigned typeId) override;
 

@@ -13,6 +13,7 @@
 #include "cls_Codes.h"
 #include "dbc_OldClassRegistrar.h"
 #include "dbc_Upgrade.h"
+#include "nex_Exception.h"
 #include "omi_Singleton.h"
 #include "rfm_MemoryDatabase.h"
 #include "rom_Transporter.h"
