@@ -130,6 +130,7 @@ void SqliteDatabase::StartRead(std::string const& path, long long fileSize) {
     ReadCatalogue();
 }
 
+// Rows are written in their order, so that a small cache is as good as a large one.
 void SqliteDatabase::StartContinue(std::string const& path, long long fileSize) {
     m_building = true;
     m_continued = true;
@@ -138,7 +139,7 @@ void SqliteDatabase::StartContinue(std::string const& path, long long fileSize) 
     m_connection.Harden(std::max(fileSize * 2, lengthAtLeast), true);
     m_connection.Execute(
         "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;"
-        "PRAGMA cache_size=-65536; PRAGMA temp_store=MEMORY; BEGIN");
+        "PRAGMA cache_size=-4096; PRAGMA temp_store=MEMORY; BEGIN");
     ReadCatalogue();
     DropAllButTables();
 }

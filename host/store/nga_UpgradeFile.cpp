@@ -146,14 +146,15 @@ dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
         options.progressContext =
             const_cast<void*>(static_cast<void const*>(&work.options.progress));
     }
+    cls_ClassRegistrar const& current =
+        omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
     dbc_UpgradeReport report;
     {
-        dbc_Upgrade upgrade(
-            *original, *database,
-            omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase),
-            omi_Singleton<dbc_OldClassRegistrar>::Instance(), options);
+        dbc_Upgrade upgrade(*original, *database, current,
+                            omi_Singleton<dbc_OldClassRegistrar>::Instance(), options);
         report = upgrade.Run();
     }
+    report.dangling = dbc_Upgrade::FindDangling(*database, current);
     database->AddIndex(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
                        rom_Layout::MapEntryKey);
     database->Finish();

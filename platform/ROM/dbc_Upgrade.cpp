@@ -328,7 +328,6 @@ void dbc_Upgrade::FinishReport() {
     }
     for (auto const& [typeId, table] : m_converter.Tables().All())
         if (table->Exists()) table->Report().rowsOut = table->Storage()->RowCount();
-    report.dangling = FindDangling(m_converter.Tables().Work(), m_current);
 }
 
 std::vector<dbc_DanglingReport> dbc_Upgrade::FindDangling(rfm_Database& database,

@@ -42,5 +42,6 @@ struct dbc_DanglingReport {
 /// The account of one upgrade.
 struct dbc_UpgradeReport {
     std::map<unsigned, dbc_ClassReport> classes;  ///< by TypeId as stored
+    /// Whoever wants them looks for them; see dbc_Upgrade::FindDangling.
     std::vector<dbc_DanglingReport> dangling;
 };
