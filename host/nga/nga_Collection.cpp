@@ -2,6 +2,9 @@
 
 #include "cow_BtreeIterator.h"
 #include "cow_Destroy.h"
+#include "kamC_Amplitude.h"
+#include "kbpC_BeamProfile.h"
+#include "kflC_Filter.h"
 #include "kmaC_Material.h"
 #include "nga_HostExtension.h"
 
@@ -45,6 +48,12 @@ class RepositoryCollection final : public Collection {
 public:
     explicit RepositoryCollection(omn_FixedString name)
         : Collection(name.Text(), T::Description()) {}
+    RepositoryCollection(omn_FixedString name, char const* reserved, int code)
+        : Collection(name.Text(), T::Description()), m_reserved(reserved), m_codeOfReserved(code) {}
+
+    int CodeOfName(std::string_view key) const override {
+        return m_reserved && key == m_reserved ? m_codeOfReserved : -1;
+    }
 
     int Size(ddr_Model const& model) const override {
         Repository const* repository = Found(model);
@@ -84,6 +93,9 @@ private:
     Repository const* Found(ddr_Model const& model) const {
         return Place::template Find<Repository>(model, Name());
     }
+
+    char const* m_reserved = nullptr;
+    int m_codeOfReserved = -1;
 };
 
 }  // namespace
@@ -91,9 +103,16 @@ private:
 std::vector<Collection const*> const& Collection::All() {
     static RepositoryCollection<kmaC_Material, InWrapper> const materials(
         kmaC_Material::materialRepositoryCmd());
+    static RepositoryCollection<kamC_Amplitude, InWrapper> const amplitudes(
+        kamC_Amplitude::amplitudeRepositoryCmd());
+    static RepositoryCollection<kbpC_BeamProfile, InWrapper> const profiles(
+        kbpC_BeamProfile::profileRepositoryCmd());
+    static RepositoryCollection<kflC_Filter, InWrapper> const filters(
+        kflC_Filter::filterRepositoryCmd(), "Antialiasing", 6);
     static RepositoryCollection<klcC_LoadCase, InHost> const loadCases(
         klcC_LoadCase::loadCaseCmd());
-    static std::vector<Collection const*> const all = {&materials, &loadCases};
+    static std::vector<Collection const*> const all = {&materials, &amplitudes, &profiles, &filters,
+                                                       &loadCases};
     return all;
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "ddr_Model.h"
@@ -20,6 +21,9 @@ public:
     char const* Name() const { return m_name; }
     /// The declared class of its objects, which may be abstract.
     mdl_Description const& Held() const { return m_held; }
+    /// The code, among those of the held class's module, of the failure that an object under this
+    /// name is, or -1: a kind may keep a name for an object that the solver defines.
+    virtual int CodeOfName(std::string_view key) const = 0;
 
     virtual int Size(ddr_Model const& model) const = 0;
     /// Null where there is none; neither detaches nor records.

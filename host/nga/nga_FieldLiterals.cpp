@@ -13,6 +13,8 @@ namespace {
 // clang-format off
 constexpr FieldLiteral literals[] = {
     {0x238002E, "beta", "FITTED_VALUE", DBL_MAX},
+    {0x2440008, "smooth", "SOLVER_DEFAULT", DBL_MAX},
+    {0x2440004, "smooth", "SOLVER_DEFAULT", DBL_MAX},
 };
 // clang-format on
 

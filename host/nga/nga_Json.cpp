@@ -56,13 +56,16 @@ std::vector<Staged> ReadAll(JsonNode const& root) {
         Collection const* collection = Collection::FindByName(member.key);
         if (!collection)
             throw Error("unknown key" + DidYouMean(member.key, known), place.Text(),
-                        member.value.line, "\"materials\", \"loadCases\", \"nga\" or \"schema\"");
+                        member.value.line, Choice(known));
         if (member.value.kind != JsonNode::Kind::Object)
             throw Error(std::string(member.value.KindText()) + " cannot stand here", place.Text(),
                         member.value.line, "an object of names and objects");
         for (JsonMember const& entry : member.value.members) {
             JsonPlace const entryPlace = JsonPlace::Entry(place, entry.key);
             RequireName(entry.key, place.Text(), entry.value.line);
+            if (int const code = collection->CodeOfName(entry.key); code >= 0)
+                throw Error(std::string(collection->Held().Module()->errorText(code).View()),
+                            entryPlace.Text(), entry.value.line, "another name");
             staged.push_back({collection, cow_String(std::string_view(entry.key)),
                               ReadObject(entry.value, entryPlace, collection->Held()),
                               entryPlace.Text(), entry.value.line});
@@ -139,7 +142,7 @@ std::string ExportJson(Document const& document) {
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
-            if (!IsUsableName(key.View()))
+            if (!IsUsableName(key.View()) || collection->CodeOfName(key.View()) >= 0)
                 writer.SetUnreadable("the name " + Quoted(key.View()) + " cannot be used");
             writer.Key(key.View());
             if (description) {

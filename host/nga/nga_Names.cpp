@@ -86,6 +86,15 @@ void AddHex(std::string& to, unsigned char c) {
 
 }  // namespace
 
+std::string Choice(std::vector<std::string> const& known) {
+    std::string text;
+    for (std::size_t i = 0; i < known.size(); ++i) {
+        if (i > 0) text += i + 1 == known.size() ? " or " : ", ";
+        text += '"' + known[i] + '"';
+    }
+    return text;
+}
+
 std::string Quoted(std::string_view text) {
     std::string quoted = "'";
     while (!text.empty()) {

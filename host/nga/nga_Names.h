@@ -18,6 +18,8 @@ bool IsUsableName(std::string_view name);
 std::vector<std::string> NearNames(std::string_view given, std::vector<std::string> const& known);
 /// " (did you mean 'elastic'?)", or nothing.
 std::string DidYouMean(std::string_view given, std::vector<std::string> const& known);
+/// What was expected: "a", "b" or "c", in double quotes.
+std::string Choice(std::vector<std::string> const& known);
 
 /// A text between single quotes as a path shows it. Quotes, backslashes and control characters are
 /// escaped, and so is each byte that is no UTF-8, so that the result can always be printed and

@@ -190,8 +190,14 @@ std::string UpgradeText(UpgradeOutcome const& outcome) {
                        std::to_string(currentSchema) + (outcome.dryRun ? ", dry run" : "") + "\n";
     for (auto const& [typeId, report] : file.report.classes)
         if (HasNews(report)) text += ClassText(report);
-    if (!file.report.dangling.empty()) text += "references that lead to no row:\n";
-    for (dbc_DanglingReport const& each : file.report.dangling)
+    dbc_References const& references = file.report.references;
+    if (!references.unreferenced.empty())
+        text += "nothing refers to these; they stay in the file until the document is saved:\n";
+    for (dbc_UnreferencedReport const& each : references.unreferenced)
+        text += "  " + each.className + " (" + Counted(each.rows, "row") + ", first row " +
+                std::to_string(each.firstRow) + ")\n";
+    if (!references.dangling.empty()) text += "references that lead to no row:\n";
+    for (dbc_DanglingReport const& each : references.dangling)
         text += "  " + each.className + "." + each.field + " (" + Counted(each.rows, "row") +
                 ", first row " + std::to_string(each.firstRow) + ")\n";
     if (!outcome.unreadable.empty()) text += "cannot be read:\n";
@@ -229,12 +235,25 @@ std::string UpgradeJson(UpgradeOutcome const& outcome) {
     writer.EndArray();
     writer.Key("dangling");
     writer.BeginArray();
-    for (dbc_DanglingReport const& each : file.report.dangling) {
+    for (dbc_DanglingReport const& each : file.report.references.dangling) {
         writer.BeginObject();
         writer.Key("class");
         writer.String(each.className);
         writer.Key("field");
         writer.String(each.field);
+        writer.Key("rows");
+        writer.Int(each.rows);
+        writer.Key("firstRow");
+        writer.Int(each.firstRow);
+        writer.EndObject();
+    }
+    writer.EndArray();
+    writer.Key("unreferenced");
+    writer.BeginArray();
+    for (dbc_UnreferencedReport const& each : file.report.references.unreferenced) {
+        writer.BeginObject();
+        writer.Key("class");
+        writer.String(each.className);
         writer.Key("rows");
         writer.Int(each.rows);
         writer.Key("firstRow");

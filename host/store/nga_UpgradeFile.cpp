@@ -13,6 +13,7 @@
 
 #include "cls_MetadataRegistrar.h"
 #include "dbc_Upgrade.h"
+#include "ddr_Model.h"
 #include "nex_Exception.h"
 #include "nga_SafeFile.h"
 #include "nga_SqliteDatabase.h"
@@ -154,7 +155,13 @@ dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
                             omi_Singleton<dbc_OldClassRegistrar>::Instance(), options);
         report = upgrade.Run();
     }
-    report.dangling = dbc_Upgrade::FindDangling(*database, current);
+    report.references = dbc_Upgrade::LookAtReferences(*database, current);
+    // Nothing refers to what the model itself holds.
+    ddr_Model::RegisteredExtensions().Each([&](cow_String const&, mdl_Extension const& extension) {
+        std::erase_if(report.references.unreferenced, [&](dbc_UnreferencedReport const& each) {
+            return each.typeId == extension.DynTypeId();
+        });
+    });
     database->AddIndex(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
                        rom_Layout::MapEntryKey);
     database->Finish();

@@ -330,34 +330,48 @@ void dbc_Upgrade::FinishReport() {
         if (table->Exists()) table->Report().rowsOut = table->Storage()->RowCount();
 }
 
-std::vector<dbc_DanglingReport> dbc_Upgrade::FindDangling(rfm_Database& database,
-                                                          cls_ClassRegistrar const& current) {
-    struct Reference {
-        int classColumn, oidColumn;
-        unsigned registered;
-        dbc_DanglingReport report;
-    };
-    std::map<unsigned, int> rowsOf;
+namespace {
+
+/// One field of a table that refers to rows.
+struct Reference {
+    int classColumn;  ///< -1: always the registered class
+    int oidColumn;
+    unsigned registered;
+    dbc_DanglingReport report;
+};
+
+std::vector<Reference> ReferencesOf(rfm_TableMetadata const& layout,
+                                    cls_ClassRegistrar const& current) {
+    std::vector<Reference> references;
+    cls_ClassMetadata const* const metadata = current.Find(layout.TypeId());
+    for (int i = 0; i < layout.ColumnCount(); ++i) {
+        std::string const column(layout.Columns()[static_cast<std::size_t>(i)].name.View());
+        if (column == "##BaseClassOID" && current.Find(layout.ParentTypeId()))
+            references.push_back(
+                {-1, i, layout.ParentTypeId(), {layout.Name().Text(), column, 0, 0}});
+        if (column.size() < 5 || column.compare(column.size() - 4, 4, "#OID") != 0) continue;
+        std::string const field = column.substr(0, column.size() - 4);
+        int const classColumn = layout.Find(cow_String((field + "#ClassID").c_str()));
+        if (classColumn < 0) continue;
+        unsigned registered = 0;
+        if (metadata)
+            for (cls_Attribute const& attribute : metadata->Attributes())
+                if (attribute.field.Name() == cow_String(field.c_str())) registered = attribute.arg;
+        references.push_back({classColumn, i, registered, {layout.Name().Text(), field, 0, 0}});
+    }
+    return references;
+}
+
+}  // namespace
+
+dbc_References dbc_Upgrade::LookAtReferences(rfm_Database& database,
+                                             cls_ClassRegistrar const& current) {
+    std::map<unsigned, std::vector<bool>> reached;
     for (rfm_Table* table : database.Tables())
-        rowsOf[table->Metadata().TypeId()] = table->RowCount();
-    std::vector<dbc_DanglingReport> result;
+        reached[table->Metadata().TypeId()].resize(static_cast<std::size_t>(table->RowCount()));
+    dbc_References result;
     for (rfm_Table* table : database.Tables()) {
-        rfm_TableMetadata const& layout = table->Metadata();
-        cls_ClassMetadata const* const metadata = current.Find(layout.TypeId());
-        std::vector<Reference> references;
-        for (int i = 0; i < layout.ColumnCount(); ++i) {
-            std::string const column(layout.Columns()[static_cast<std::size_t>(i)].name.View());
-            if (column.size() < 5 || column.compare(column.size() - 4, 4, "#OID") != 0) continue;
-            std::string const field = column.substr(0, column.size() - 4);
-            int const classColumn = layout.Find(cow_String((field + "#ClassID").c_str()));
-            if (classColumn < 0) continue;
-            unsigned registered = 0;
-            if (metadata)
-                for (cls_Attribute const& attribute : metadata->Attributes())
-                    if (attribute.field.Name() == cow_String(field.c_str()))
-                        registered = attribute.arg;
-            references.push_back({classColumn, i, registered, {layout.Name().Text(), field, 0, 0}});
-        }
+        std::vector<Reference> references = ReferencesOf(table->Metadata(), current);
         if (references.empty()) continue;
         std::unique_ptr<rfm_Cursor> const cursor = table->OpenCursor();
         for (int oid = 0, rows = table->RowCount(); oid < rows; ++oid) {
@@ -365,19 +379,29 @@ std::vector<dbc_DanglingReport> dbc_Upgrade::FindDangling(rfm_Database& database
             for (Reference& each : references) {
                 rfm_Value const number = cursor->Value(each.oidColumn);
                 if (number.tag != rfm_Value::Int) continue;
-                rfm_Value const classId = cursor->Value(each.classColumn);
-                unsigned const typeId = classId.tag == rfm_Value::Int
-                                            ? static_cast<unsigned>(classId.integer)
-                                            : each.registered;
-                auto const target = rowsOf.find(typeId);
-                if (target != rowsOf.end() && number.integer >= 0 &&
-                    number.integer < target->second)
-                    continue;
-                if (each.report.rows++ == 0) each.report.firstRow = oid;
+                bool const isBase = each.classColumn < 0;
+                if (isBase && number.integer < 0) continue;
+                rfm_Value const classId = isBase ? rfm_Value() : cursor->Value(each.classColumn);
+                auto const target = reached.find(classId.tag == rfm_Value::Int
+                                                     ? static_cast<unsigned>(classId.integer)
+                                                     : each.registered);
+                if (target != reached.end() && number.integer >= 0 &&
+                    number.integer < static_cast<long long>(target->second.size()))
+                    target->second[static_cast<std::size_t>(number.integer)] = true;
+                else if (each.report.rows++ == 0)
+                    each.report.firstRow = oid;
             }
         }
         for (Reference const& each : references)
-            if (each.report.rows > 0) result.push_back(each.report);
+            if (each.report.rows > 0) result.dangling.push_back(each.report);
+    }
+    for (auto const& [typeId, rows] : reached) {
+        cls_ClassMetadata const* const metadata = current.Find(typeId);
+        if (!metadata || !metadata->HasCtor()) continue;
+        dbc_UnreferencedReport report{typeId, metadata->Name().Text(), 0, 0};
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            if (!rows[row] && report.rows++ == 0) report.firstRow = static_cast<int>(row);
+        if (report.rows > 0) result.unreferenced.push_back(report);
     }
     return result;
 }

@@ -33,9 +33,10 @@ public:
     /// Raises nex_TextException where the database cannot be converted.
     dbc_UpgradeReport Run();
 
-    /// Lists the references that lead to no row.
-    static std::vector<dbc_DanglingReport> FindDangling(rfm_Database& database,
-                                                        cls_ClassRegistrar const& current);
+    /// Follows every reference of a database in one pass: lists those that lead to no row, and the
+    /// objects that none leads to. Takes a bit for each row.
+    static dbc_References LookAtReferences(rfm_Database& database,
+                                           cls_ClassRegistrar const& current);
 
 private:
     struct OldClass {

@@ -39,9 +39,23 @@ struct dbc_DanglingReport {
     int firstRow = 0;
 };
 
+/// Objects of a class that no row refers to.
+struct dbc_UnreferencedReport {
+    unsigned typeId = 0;
+    std::string className;
+    long long rows = 0;
+    int firstRow = 0;
+};
+
+/// What the references of a database lead to, and what they do not.
+struct dbc_References {
+    std::vector<dbc_DanglingReport> dangling;
+    std::vector<dbc_UnreferencedReport> unreferenced;
+};
+
 /// The account of one upgrade.
 struct dbc_UpgradeReport {
     std::map<unsigned, dbc_ClassReport> classes;  ///< by TypeId as stored
-    /// Whoever wants them looks for them; see dbc_Upgrade::FindDangling.
-    std::vector<dbc_DanglingReport> dangling;
+    /// Whoever wants to know looks for it; see dbc_Upgrade::LookAtReferences.
+    dbc_References references;
 };

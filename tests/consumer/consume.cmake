@@ -47,3 +47,7 @@ if(NOT output STREQUAL "refused: Tabular data for at least one option or subopti
 has either blank or zero valued row(s).\ndensity 7850\n")
   message(FATAL_ERROR "the consumer said:\n${output}")
 endif()
+step(${WORK}/build/null_reference)
+if(NOT output STREQUAL "steel 1, gold 0\n")
+  message(FATAL_ERROR "a reference to null is not recognised:\n${output}")
+endif()

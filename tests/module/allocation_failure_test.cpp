@@ -183,4 +183,36 @@ TEST_F(AllocationFailure, OfTakingAnExtensionLeavesTheModelUsable) {
     EXPECT_GT(failures, 5);
 }
 
+TEST(FailedStart, OfAModuleLeavesItsGuardRaisedAndItsCount) {
+    int count = 0;
+    DDB_NonGeometricAttributes_initialize(count);
+    int const others = count - 1;
+    mem_FailureHook const former = mem_SetFailureHook(FailsNow);
+    int failures = 0;
+    for (bool failed = true; failed; ++failures) {
+        kmaC_finalize(count);
+        ASSERT_EQ(count, others);
+        failed = false;
+        allocationsLeft = failures;
+        try {
+            kmaC_initialize(count);
+        } catch (std::bad_alloc const&) {
+            failed = true;
+        }
+        allocationsLeft = -1;
+        EXPECT_EQ(count, others + 1) << "allocation " << failures;
+        // As a unit that is up: a further pair acts on nothing.
+        kmaC_initialize(count);
+        kmaC_finalize(count);
+        EXPECT_EQ(count, others + 1) << "allocation " << failures;
+    }
+    EXPECT_GT(failures, 3);
+    mem_SetFailureHook(former);
+    EXPECT_EQ(
+        ddr_Model::RegisteredExtensions().Find(cow_String(ddr_Model::materialCmd())) != nullptr,
+        true);
+    DDB_NonGeometricAttributes_finalize(count);
+    EXPECT_EQ(count, 0);
+}
+
 }  // namespace allocation_failure_test

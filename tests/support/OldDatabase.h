@@ -87,6 +87,24 @@ public:
             {{"Target#Handle", Bytes(values)}, {"Target#Columns", columns}, {"Target#Kind", kind}});
     }
 
+    /// Makes the array of a row another kind of collection.
+    void Retype(int oid, int kind) {
+        rfm_Table* const table = m_store.FindTable(cls_ListTypeId);
+        std::vector<rfm_Value> values(table->Metadata().Columns().size());
+        std::unique_ptr<rfm_Cursor> const cursor = table->OpenCursor();
+        cursor->Seek(oid);
+        std::string const bytes(static_cast<char const*>(cursor->Value(0).bytes),
+                                static_cast<std::size_t>(cursor->Value(0).length));
+        std::string const uid(static_cast<char const*>(cursor->Value(5).bytes),
+                              static_cast<std::size_t>(cursor->Value(5).length));
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i] = cursor->Value(static_cast<int>(i));
+        values[0].bytes = bytes.data();
+        values[5].bytes = uid.data();
+        values[rom_Layout::ListKind] = rfm_Value::OfInt(kind);
+        table->Replace(oid, values.data());
+    }
+
 private:
     rfm_MemoryDatabase m_store;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "atr_String.h"
+#include "mdl_RuleVisitor.h"
 
 /// The text of a code; empty beyond 22. Hosts raise some codes that no rule of this module
 /// has.
@@ -13,3 +14,6 @@ atr_String kamC_ErrorText(int code);
 inline void kamC_Assert(bool condition, int code) {
     if (!condition) kamC_Fail(code);
 }
+
+/// What the rules of this module's classes raise through.
+extern mdl_Module const kamC_Module;

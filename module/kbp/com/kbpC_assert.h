@@ -1,6 +1,7 @@
 #pragma once
 
 #include "atr_String.h"
+#include "mdl_RuleVisitor.h"
 
 /// Codes are written as their numbers, by which rules and table are held against each other.
 enum kbpC_ErrorEnm : int {};
@@ -16,3 +17,6 @@ atr_String kbpC_ErrorText(kbpC_ErrorEnm code);
 inline void kbpC_Assert(bool condition, kbpC_ErrorEnm code) {
     if (!condition) kbpC_Fail(code);
 }
+
+/// What the rules of this module's classes raise through.
+extern mdl_Module const kbpC_Module;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "atr_String.h"
+#include "mdl_RuleVisitor.h"
 
 /// The text of a code; empty beyond 6. Hosts raise some codes that no rule of this module
 /// has.
@@ -13,3 +14,6 @@ atr_String kflC_ErrorText(int code);
 inline void kflC_Assert(bool condition, int code) {
     if (!condition) kflC_Fail(code);
 }
+
+/// What the rules of this module's classes raise through.
+extern mdl_Module const kflC_Module;

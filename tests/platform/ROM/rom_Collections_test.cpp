@@ -120,6 +120,39 @@ TEST_F(Collections, AStoredKindOtherThanTheFieldsIsRefused) {
     EXPECT_EQ(FailureOfReading(row), "");
 }
 
+/// Two levels that agree on the field and not on what it holds: a list of integers is registered,
+/// and one of doubles is written.
+struct Mismatched : mem_AllocationOperators {
+    static constexpr unsigned TypeId() { return 0x7770009; }
+    static cls_FieldHandle Field() { return cls_FieldHandle(0, "values"); }
+    Mismatched() = default;
+    explicit Mismatched(cls_ReadVisitor const&) {}
+    static void InitializeMetadata(cls_ClassRegistrar& registrar) {
+        registrar.AddClassMD(new cls_TypeAdapter<Mismatched>("Mismatched", 203, cls_RootTypeId))
+            .AddAttribute(Field(), cls_AttributeObject, cls_ListTypeId, cls_CollectionListInt);
+    }
+    void DBWrite(cls_WriteVisitor const& visitor) const {
+        if (visitor.StartWrite(TypeId(), uid) == 0) return;
+        cls_WriteVisitor values(visitor, Field(), nullptr, nullptr);
+        reals.DBWrite(values);
+    }
+    cls_xp1DArrayListDouble reals;
+    cls_Uid uid = cls_Uid::AllocateUid();
+};
+
+TEST_F(Collections, AKindOtherThanTheFieldsIsNotWritten) {
+    Mismatched::InitializeMetadata(m_registrar);
+    Mismatched const object;
+    std::string message;
+    try {
+        rom_Transporter(m_database, m_registrar).Write(&object, Mismatched::TypeId());
+    } catch (nex_Exception const& failure) {
+        message = failure.UserReport().Text();
+    }
+    EXPECT_EQ(message, "A collection was written to a field that holds another kind (Mismatched).");
+    EXPECT_TRUE(Rows(cls_ListTypeId, "Target#Kind", cls_CollectionListDouble).empty());
+}
+
 TEST_F(Collections, AnElementByValueOfAnotherClassIsRefused) {
     specimen_Whole whole;
     whole.parts.Append(specimen_Part());

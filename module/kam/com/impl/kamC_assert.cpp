@@ -40,3 +40,5 @@ constexpr char const* kamTexts[] = {
 atr_String kamC_ErrorText(int code) { return nex_TextOfCode(kamTexts, code); }
 
 void kamC_Fail(int code) { nex_TextException(kamC_ErrorText(code)).Throw(kamSource, 84); }
+
+mdl_Module const kamC_Module = {"kam", kamC_ErrorText, kamC_Fail};

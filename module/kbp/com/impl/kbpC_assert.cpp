@@ -58,3 +58,6 @@ atr_String kbpC_ErrorText(kbpC_ErrorEnm code) { return nex_TextOfCode(kbpTexts, 
 void kbpC_Fail(kbpC_ErrorEnm code) {
     nex_TextException(kbpC_ErrorText(code)).Throw(kbpSource, 116);
 }
+
+mdl_Module const kbpC_Module = {"kbp", [](int code) { return kbpC_ErrorText(kbpC_ErrorEnm(code)); },
+                                [](int code) { kbpC_Fail(kbpC_ErrorEnm(code)); }};

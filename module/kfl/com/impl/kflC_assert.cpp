@@ -24,3 +24,5 @@ constexpr char const* kflTexts[] = {
 atr_String kflC_ErrorText(int code) { return nex_TextOfCode(kflTexts, code); }
 
 void kflC_Fail(int code) { nex_TextException(kflC_ErrorText(code)).Throw(kflSource, 48); }
+
+mdl_Module const kflC_Module = {"kfl", kflC_ErrorText, kflC_Fail};
