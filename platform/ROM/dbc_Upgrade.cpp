@@ -53,18 +53,21 @@ dbc_UpgradeReport dbc_Upgrade::Run() {
     Declare();
     bool renamed = false;
     for (auto const& [version, step] : m_converter.Steps()) {
-        if (version > lastBeforeRenames && !renamed) {
+        if (IsAfterLast(version)) break;
+        if (version > lastBeforeRenames && !renamed && !IsAfterLast(versionOfRenames)) {
             RenameTables();
             renamed = true;
         }
         RunStep(version, step);
     }
-    if (!renamed) RenameTables();
-    BringToCurrent();
-    DropDeleted();
+    bool const whole = m_options.lastVersion == 0;
+    if (whole && !renamed) RenameTables();
+    if (whole) BringToCurrent();
+    // What a later step may still look into stays.
+    if (whole || !IsAfterLast(versionOfRenames)) DropDeleted();
     if (!m_converter.Tables().Renames().empty())
         for (auto const& [typeId, table] : m_converter.Tables().All()) table->MapReferences();
-    Complete();
+    if (whole) Complete();
     FinishReport();
     return m_converter.Tables().Report();
 }

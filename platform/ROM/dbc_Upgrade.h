@@ -11,6 +11,8 @@
 struct dbc_UpgradeOptions {
     /// Gives enumerations that a conversion left without a literal that of their class's default.
     bool complete = true;
+    /// No step beyond this version is run, and the database stays one of that time. 0: all are.
+    int lastVersion = 0;
     /// Called now and then with how many rows were brought over.
     void (*progress)(void* context, long long rows) = nullptr;
     void* progressContext = nullptr;
@@ -46,6 +48,9 @@ private:
 
     void Declare();
     int LastVersion(unsigned typeId, int version) const;
+    bool IsAfterLast(int version) const {
+        return m_options.lastVersion != 0 && version > m_options.lastVersion;
+    }
     void RunStep(int version, dbc_Converter const& step);
     void RenameTables();
     void BringToCurrent();
