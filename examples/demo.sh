@@ -63,3 +63,10 @@ code=0
 shown check zero_factor.nga || code=$?
 printf 'exit code %s\n' "$code"
 [ "$code" -eq 1 ]
+
+step "Databases of old schemas come up to date, and the old files stay beside"
+for schema in 203 453; do
+  sqlite3 "old_$schema.nga" < "$examples/old_$schema.sql"
+  shown upgrade "old_$schema.nga"
+done
+shown tree old_203.nga

@@ -42,7 +42,8 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 
 }  // namespace
 
-Console::Console() : m_colourOut(Coloured(1)), m_colourErr(Coloured(2)) {}
+Console::Console()
+    : m_colourOut(Coloured(1)), m_colourErr(Coloured(2)), m_showsProgress(Coloured(2)) {}
 
 bool Console::OutIsTerminal() const { return isatty(1) != 0; }
 
@@ -70,6 +71,11 @@ std::string Console::Strong(std::string const& text) const {
 }
 std::string Console::Alarming(std::string const& text) const {
     return m_colourOut ? "\033[31m" + text + "\033[0m" : text;
+}
+
+void Console::Progress(std::string const& line) {
+    std::fprintf(stderr, "\r\033[K%s", line.c_str());
+    std::fflush(stderr);
 }
 
 void Console::Finish() {

@@ -28,12 +28,18 @@ public:
     std::string Strong(std::string const& text) const;
     std::string Alarming(std::string const& text) const;
 
+    /// Whether somebody looks on who would like to see how far it is.
+    bool ShowsProgress() const { return m_showsProgress && !quiet; }
+    /// Puts a line in the place of the last one of these; an empty one removes it.
+    void Progress(std::string const& line);
+
     /// Raises an Error if the results did not get out, as on a full disk.
     void Finish();
 
 private:
     bool m_colourOut;
     bool m_colourErr;
+    bool m_showsProgress;
 };
 
 /// How messages call a file that the command line names.

@@ -18,6 +18,7 @@
 #include "nga_Schema.h"
 #include "nga_Svg.h"
 #include "nga_Tree.h"
+#include "nga_Upgrade.h"
 
 namespace nga {
 
@@ -38,6 +39,8 @@ struct Arguments {
     bool json = false;
     bool paths = false;
     bool deep = false;
+    bool dryRun = false;
+    bool noComplete = false;
     bool plot = false;
 };
 
@@ -149,6 +152,23 @@ public:
         File(verb);
         verb->add_flag("--deep", a.deep,
                        "Also note what would fail if its owner asked it; notes alone are fine");
+        Json(verb);
+
+        verb = Verb("upgrade",
+                    "Bring a database of an older schema to the current one; exit code 1 if "
+                    "something in it is to be looked at",
+                    "nga upgrade archive.nga --dry-run", &Tool::Upgrade);
+        verb->add_option("FILE", a.file,
+                         "The database; in its place comes the current one, and it stays beside as "
+                         "FILE.schema-NNN.bak")
+            ->required()
+            ->type_name("");
+        verb->add_option("-o,--output", a.output, "Another file for the current database")
+            ->type_name("FILE");
+        verb->add_flag("--dry-run", a.dryRun, "Do all of it on a scratch copy and change no file");
+        verb->add_flag("--no-complete", a.noComplete,
+                       "Leave enumerations without a literal as they are, rather than give them "
+                       "their default");
         Json(verb);
 
         verb = Verb("schema", "Show one class or all, as they are registered", "nga schema Elastic",
@@ -471,6 +491,29 @@ private:
             writer.EndObject();
         }
         writer.EndArray();
+    }
+
+    int Upgrade() {
+        if (!m_arguments.output.empty()) {
+            RefuseTextName(m_arguments.output);
+            RefuseExisting(m_arguments.output, "the name of a new file");
+        }
+        UpgradeFileOptions options;
+        options.output = m_arguments.output;
+        options.dryRun = m_arguments.dryRun;
+        options.complete = !m_arguments.noComplete;
+        bool shown = false;
+        if (m_console.ShowsProgress())
+            options.progress = [&](long long rows) {
+                shown = true;
+                m_console.Progress("upgrading: " + std::to_string(rows) + " rows");
+            };
+        UpgradeOutcome const outcome = nga::Upgrade(m_arguments.file, options);
+        if (shown) m_console.Progress("");
+        m_console.Result(m_arguments.json ? UpgradeJson(outcome) : UpgradeText(outcome));
+        if (!outcome.file.backup.empty())
+            m_console.Say("the old database is " + Printable(outcome.file.backup));
+        return outcome.HasFindings() ? exitFindings : exitFine;
     }
 
     int Schema() {

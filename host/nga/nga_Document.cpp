@@ -39,10 +39,12 @@ Document Document::New(std::string const& name) {
     return Document(std::make_unique<ddr_Model>(cow_String(std::string_view(name))));
 }
 
-Document Document::Open(std::string const& path) {
+Document Document::Open(std::string const& path) { return OpenAs(path, std::string()); }
+
+Document Document::OpenAs(std::string const& path, std::string const& name) {
     Start();
     FileStamp stamp;
-    Document document(LoadModel(path, &stamp));
+    Document document(LoadModel(path, &stamp, name));
     if (std::string const place = NameOfNothing(*document.m_model); !place.empty())
         throw StoreError(path, place + " is a name without an object");
     document.m_file = path;

@@ -18,6 +18,8 @@ public:
     static Document New(std::string const& name);
     /// The document of a file, named by the file's stem. Opening never writes.
     static Document Open(std::string const& path);
+    /// The same under another name, for a file that is to take the place of one of that name.
+    static Document OpenAs(std::string const& path, std::string const& name);
 
     Document(Document&&) noexcept;
     Document& operator=(Document&&) noexcept;

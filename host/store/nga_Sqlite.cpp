@@ -102,7 +102,7 @@ void SqliteConnection::Execute(std::string const& sql) {
     Check(m_database, sqlite3_exec(m_database, sql.c_str(), nullptr, nullptr, nullptr));
 }
 
-void SqliteConnection::Harden(long long length) {
+void SqliteConnection::Harden(long long length, bool altering) {
     static constexpr int switches[][2] = {
         {SQLITE_DBCONFIG_DEFENSIVE, 1},
         {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
@@ -117,12 +117,18 @@ void SqliteConnection::Harden(long long length) {
     int const most = static_cast<int>(
         std::min<long long>(length, sqlite3_limit(m_database, SQLITE_LIMIT_LENGTH, -1)));
     int const limits[][2] = {
-        {SQLITE_LIMIT_LENGTH, most},           {SQLITE_LIMIT_SQL_LENGTH, 1 << 20},
-        {SQLITE_LIMIT_COLUMN, 2000},           {SQLITE_LIMIT_EXPR_DEPTH, 50},
-        {SQLITE_LIMIT_COMPOUND_SELECT, 2},     {SQLITE_LIMIT_VDBE_OP, 100000},
-        {SQLITE_LIMIT_FUNCTION_ARG, 8},        {SQLITE_LIMIT_ATTACHED, 0},
-        {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 0}, {SQLITE_LIMIT_VARIABLE_NUMBER, 2000},
-        {SQLITE_LIMIT_TRIGGER_DEPTH, 1},       {SQLITE_LIMIT_WORKER_THREADS, 0},
+        {SQLITE_LIMIT_LENGTH, most},
+        {SQLITE_LIMIT_SQL_LENGTH, 1 << 20},
+        {SQLITE_LIMIT_COLUMN, 2000},
+        {SQLITE_LIMIT_EXPR_DEPTH, 50},
+        {SQLITE_LIMIT_COMPOUND_SELECT, 2},
+        {SQLITE_LIMIT_VDBE_OP, 100000},
+        {SQLITE_LIMIT_VARIABLE_NUMBER, 2000},
+        {SQLITE_LIMIT_ATTACHED, altering ? 1 : 0},
+        {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
+        {SQLITE_LIMIT_WORKER_THREADS, 0},
+        {SQLITE_LIMIT_FUNCTION_ARG, altering ? 16 : 8},
+        {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, altering ? 64 : 0},
     };
     for (auto const& [limit, value] : limits) sqlite3_limit(m_database, limit, value);
     sqlite3_int64 mapped = 0;

@@ -37,8 +37,9 @@ public:
 
     void Execute(std::string const& sql);
     /// Shuts off whatever a hostile file could make SQLite do. \p length bounds every single text
-    /// and blob, and every statement that the file holds.
-    void Harden(long long length);
+    /// and blob, and every statement that the file holds. \p altering leaves what renaming a table
+    /// takes.
+    void Harden(long long length, bool altering = false);
     /// Ends every later statement with a failure once all together have run so many steps of
     /// SQLite's machine: a damaged file must not keep a reader for ever.
     void LimitWork(long long steps);

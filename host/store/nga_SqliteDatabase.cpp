@@ -98,6 +98,14 @@ std::unique_ptr<SqliteDatabase> SqliteDatabase::Open(std::string const& path, lo
     return result;
 }
 
+std::unique_ptr<SqliteDatabase> SqliteDatabase::Continue(std::string const& path,
+                                                         long long fileSize) {
+    std::unique_ptr<SqliteDatabase> result(new SqliteDatabase);
+    result->m_layoutOf = [](CatalogueEntry const&) { return std::optional<rfm_TableMetadata>(); };
+    InStoreTerms([&] { result->StartContinue(path, fileSize); });
+    return result;
+}
+
 // The file is nobody else's until it is complete, so nothing protects it on the way there.
 void SqliteDatabase::StartBuild(std::string const& path) {
     m_building = true;
@@ -120,6 +128,29 @@ void SqliteDatabase::StartRead(std::string const& path, long long fileSize) {
     // One transaction: what is read is one state of the file.
     m_connection.Execute("BEGIN");
     ReadCatalogue();
+}
+
+// Rows are written in their order, so that a small cache is as good as a large one.
+void SqliteDatabase::StartContinue(std::string const& path, long long fileSize) {
+    m_building = true;
+    m_continued = true;
+    m_fileSize = fileSize;
+    m_connection.OpenForWriting(path);
+    m_connection.Harden(std::max(fileSize * 2, lengthAtLeast), true);
+    m_connection.Execute(
+        "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;"
+        "PRAGMA cache_size=-4096; PRAGMA temp_store=MEMORY; BEGIN");
+    ReadCatalogue();
+    DropAllButTables();
+}
+
+// A view or a trigger over a table would hinder its successor.
+void SqliteDatabase::DropAllButTables() {
+    std::string const ours = std::string("cls_MapEntry#owner#key");
+    for (auto const& [name, row] : m_schema)
+        if ((row.type == "view" || row.type == "trigger" || row.type == "index") && name != ours &&
+            !row.sql.empty())
+            m_connection.Execute("DROP " + row.type + " IF EXISTS " + SqlName(name));
 }
 
 void SqliteDatabase::ReadCatalogue() {
@@ -210,11 +241,8 @@ SqliteDatabase::CheckedLayout SqliteDatabase::LayoutInFile(CatalogueEntry const&
 rfm_Table* SqliteDatabase::FindTable(unsigned typeId) {
     auto const open = m_tables.find(typeId);
     if (open != m_tables.end()) return open->second.get();
-    if (m_building) return nullptr;
-    auto const entry = std::find_if(
-        m_catalogue.begin(), m_catalogue.end(),
-        [typeId](CatalogueEntry const& candidate) { return candidate.typeId == typeId; });
-    if (entry == m_catalogue.end()) return nullptr;
+    CatalogueEntry const* const entry = Find(typeId);
+    if (!entry || m_successors.count(typeId)) return nullptr;
     return InStoreTerms([&] {
         CheckedLayout const checked = LayoutInFile(*entry);
         auto table = std::make_unique<SqliteTable>(m_connection, checked.layout, entry->tableName,
@@ -250,14 +278,75 @@ rfm_Table& SqliteDatabase::CreateTable(rfm_TableMetadata const& metadata) {
 }
 
 std::vector<rfm_Table*> SqliteDatabase::Tables() {
-    if (!m_building)
-        for (CatalogueEntry const& entry : m_catalogue) FindTable(entry.typeId);
+    for (CatalogueEntry const& entry : m_catalogue) FindTable(entry.typeId);
     std::vector<rfm_Table*> result;
     for (auto const& [typeId, table] : m_tables) result.push_back(table.get());
     return result;
 }
 
+CatalogueEntry* SqliteDatabase::Find(unsigned typeId) {
+    auto const entry = std::find_if(
+        m_catalogue.begin(), m_catalogue.end(),
+        [typeId](CatalogueEntry const& candidate) { return candidate.typeId == typeId; });
+    return entry == m_catalogue.end() ? nullptr : &*entry;
+}
+
+void SqliteDatabase::DropSqlTable(std::string const& name) {
+    m_connection.Execute("DROP TABLE " + SqlName(name));
+}
+
+rfm_Table& SqliteDatabase::MakeSuccessor(rfm_TableMetadata const& metadata, bool keepFormer) {
+    unsigned const typeId = metadata.TypeId();
+    if (!m_building) RaiseStore("a file that is read was to be written to", __LINE__);
+    if (m_successors.count(typeId)) RaiseStore("a table was to get two successors", __LINE__);
+    return InStoreTerms([&]() -> rfm_Table& {
+        std::string const name = "nga_Successor#" + std::to_string(typeId);
+        m_connection.Execute(TableSql(metadata, name));
+        if (CatalogueEntry* const entry = Find(typeId); entry && !keepFormer) {
+            m_tables.erase(typeId);
+            DropSqlTable(entry->tableName);
+            entry->tableName.clear();
+        }
+        auto table =
+            std::make_unique<SqliteTable>(m_connection, metadata, name, true, SqliteTable::New);
+        return *(m_successors[typeId] = std::move(table));
+    });
+}
+
+void SqliteDatabase::Settle(unsigned typeId) {
+    auto const successor = m_successors.find(typeId);
+    if (successor == m_successors.end()) return;
+    InStoreTerms([&] {
+        rfm_TableMetadata const& metadata = successor->second->Metadata();
+        std::string const temporary = successor->second->SqlTable();
+        m_tables.erase(typeId);
+        if (CatalogueEntry* const entry = Find(typeId)) {
+            if (!entry->tableName.empty()) DropSqlTable(entry->tableName);
+            m_catalogue.erase(m_catalogue.begin() + (entry - m_catalogue.data()));
+        }
+        CatalogueEntry entry{typeId, std::string(metadata.Name().View()), FreeTableName(metadata),
+                             metadata.Version(), metadata.ParentTypeId()};
+        successor->second->Renamed(entry.tableName);
+        m_connection.Execute("ALTER TABLE " + SqlName(temporary) + " RENAME TO " +
+                             SqlName(entry.tableName));
+        m_catalogue.push_back(std::move(entry));
+        m_tables[typeId] = std::move(successor->second);
+        m_successors.erase(successor);
+    });
+}
+
+void SqliteDatabase::DropTable(unsigned typeId) {
+    CatalogueEntry const* const entry = Find(typeId);
+    if (!entry) return;
+    InStoreTerms([&] {
+        m_tables.erase(typeId);
+        DropSqlTable(entry->tableName);
+        m_catalogue.erase(m_catalogue.begin() + (entry - m_catalogue.data()));
+    });
+}
+
 void SqliteDatabase::AddIndex(unsigned typeId, int intColumn, int textColumn) {
+    FindTable(typeId);
     auto const found = m_tables.find(typeId);
     if (found == m_tables.end()) return;
     found->second->Flush();
@@ -266,9 +355,9 @@ void SqliteDatabase::AddIndex(unsigned typeId, int intColumn, int textColumn) {
         std::string const& table = found->second->SqlTable();
         std::string const first(columns[static_cast<std::size_t>(intColumn)].name.View());
         std::string const second(columns[static_cast<std::size_t>(textColumn)].name.View());
-        m_connection.Execute("CREATE INDEX " + SqlName(table + "#" + first + "#" + second) +
-                             " ON " + SqlName(table) + "(" + SqlName(first) + "," +
-                             SqlName(second) + ")");
+        m_connection.Execute("CREATE INDEX IF NOT EXISTS " +
+                             SqlName(table + "#" + first + "#" + second) + " ON " + SqlName(table) +
+                             "(" + SqlName(first) + "," + SqlName(second) + ")");
     });
 }
 
@@ -292,12 +381,24 @@ void SqliteDatabase::RequireUnique(unsigned typeId, int intColumn, int keyColumn
     });
 }
 
+// Tables that were replaced leave pages behind; where they are many, the file is written anew.
+void SqliteDatabase::Compact() {
+    auto const number = [this](char const* pragma) {
+        SqliteStatement statement(m_connection, pragma);
+        return statement.Step() ? statement.Int(0) : 0;
+    };
+    long long const pages = number("PRAGMA page_count");
+    if (number("PRAGMA freelist_count") * 3 > pages) m_connection.Execute("VACUUM");
+}
+
 void SqliteDatabase::Finish() {
     for (auto const& [typeId, table] : m_tables) table->Flush();
     InStoreTerms([&] {
         // In the order of the numbers, as SQLite keeps the rows.
         std::sort(m_catalogue.begin(), m_catalogue.end(),
                   [](auto const& a, auto const& b) { return a.typeId < b.typeId; });
+        m_connection.Execute("DELETE FROM " + std::string(catalogueName) +
+                             "; PRAGMA user_version=" + std::to_string(currentSchema));
         {
             SqliteStatement insert(
                 m_connection, "INSERT INTO " + std::string(catalogueName) + " VALUES(?,?,?,?,?)");
@@ -316,6 +417,7 @@ void SqliteDatabase::Finish() {
         }
         m_tables.clear();
         m_connection.Execute("COMMIT");
+        if (m_continued) Compact();
         m_connection.Close();
     });
 }

@@ -31,9 +31,10 @@ struct CatalogueEntry {
 };
 
 /// A record store in a SQLite file: one SQL table a class, made when the class's first row comes,
-/// and a catalogue of the classes. It is either built, in one transaction that Finish ends, or
-/// read; a file that is read is never written to. Failures are raised as nex_TextException.
-class SqliteDatabase final : public rfm_Database {
+/// and a catalogue of the classes. It is either built, in one transaction that Finish ends, from
+/// nothing or from the copy of a file, or read; a file that is read is never written to. Failures
+/// are raised as nex_TextException.
+class SqliteDatabase final : public rfm_WorkDatabase {
 public:
     /// The layout that a class's table must have at a version; none where it is not known, and the
     /// table's own is taken.
@@ -41,6 +42,9 @@ public:
 
     /// Starts to fill an empty file.
     static std::unique_ptr<SqliteDatabase> Build(std::string const& path);
+    /// Goes on with a file that is nobody else's: its tables can be added to and replaced. What
+    /// it holds besides tables goes.
+    static std::unique_ptr<SqliteDatabase> Continue(std::string const& path, long long fileSize);
     /// Opens a file whose header the caller has looked at. \p fileSize bounds what its contents can
     /// claim.
     static std::unique_ptr<SqliteDatabase> Open(std::string const& path, long long fileSize,
@@ -50,6 +54,9 @@ public:
     rfm_Table* FindTable(unsigned typeId) override;
     rfm_Table& CreateTable(rfm_TableMetadata const& metadata) override;
     std::vector<rfm_Table*> Tables() override;
+    rfm_Table& MakeSuccessor(rfm_TableMetadata const& metadata, bool keepFormer) override;
+    void Settle(unsigned typeId) override;
+    void DropTable(unsigned typeId) override;
 
     /// Keeps an index for FindRow over two columns of a table; none if there is no such table.
     void AddIndex(unsigned typeId, int intColumn, int textColumn);
@@ -75,6 +82,11 @@ private:
     SqliteDatabase();
     void StartBuild(std::string const& path);
     void StartRead(std::string const& path, long long fileSize);
+    void StartContinue(std::string const& path, long long fileSize);
+    void DropAllButTables();
+    void Compact();
+    void DropSqlTable(std::string const& name);
+    CatalogueEntry* Find(unsigned typeId);
     void ReadCatalogue();
     struct CheckedLayout {
         rfm_TableMetadata layout;
@@ -85,12 +97,14 @@ private:
 
     SqliteConnection m_connection;
     bool m_building = false;
+    bool m_continued = false;
     long long m_fileSize = 0;
     LayoutOf m_layoutOf;
     std::vector<CatalogueEntry> m_catalogue;  ///< by rising TypeId where it was read
     std::string m_writer;
     std::map<std::string, SchemaRow> m_schema;
     std::map<unsigned, std::unique_ptr<SqliteTable>> m_tables;
+    std::map<unsigned, std::unique_ptr<SqliteTable>> m_successors;
 };
 
 }  // namespace nga

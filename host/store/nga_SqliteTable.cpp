@@ -132,12 +132,19 @@ void SqliteTable::RunInsert(Insert& insert, rfm_Value const* values) {
     insert.statement.Run();
 }
 
-void SqliteTable::InsertAt(int oid, char const* verb, rfm_Value const* values) {
-    std::string sql = verb + (" INTO " + SqlName(m_sqlTable)) + " VALUES(" + std::to_string(oid);
-    for (int i = 0; i < m_metadata.ColumnCount(); ++i) sql += ",?";
-    Insert insert{SqliteStatement(m_connection, sql + ")"),
-                  std::vector<bool>(m_metadata.Columns().size())};
-    RunInsert(insert, values);
+SqliteTable::Insert SqliteTable::MakeInsertAt(char const* verb) const {
+    std::string columns = SqlName(rowNumberColumn), places = "?";
+    if (m_metadata.ColumnCount() > 0) columns += ',' + ColumnList();
+    for (int i = 0; i < m_metadata.ColumnCount(); ++i) places += ",?";
+    return {SqliteStatement(m_connection, verb + (" INTO " + SqlName(m_sqlTable)) + '(' + columns +
+                                              ") VALUES(" + places + ')'),
+            std::vector<bool>(m_metadata.Columns().size() + 1)};
+}
+
+void SqliteTable::InsertAt(Insert& insert, int oid, rfm_Value const* values) {
+    m_row.assign(1, rfm_Value::OfInt(oid));
+    m_row.insert(m_row.end(), values, values + m_metadata.ColumnCount());
+    RunInsert(insert, m_row.data());
 }
 
 void SqliteTable::Wait(rfm_Value const* values) {
@@ -179,7 +186,8 @@ int SqliteTable::Append(rfm_Value const* values) {
     return InStoreTerms([&] {
         if (m_rowCount == 0) {
             // SQLite numbers from 1 on its own, and goes on from whatever stands there.
-            InsertAt(0, "INSERT", values);
+            Insert first = MakeInsertAt("INSERT");
+            InsertAt(first, 0, values);
         } else {
             if (!m_insertOne.statement) m_insertOne = MakeInsert(1);
             if (m_rowCount < rowsAtOnce || m_metadata.ColumnCount() > columnsTogether) {
@@ -198,7 +206,20 @@ void SqliteTable::Replace(int oid, rfm_Value const* values) {
     if (oid < 0 || oid >= RowCount())
         RaiseStore("table " + m_sqlTable + " has no row to be written again", __LINE__);
     Flush();
-    InStoreTerms([&] { InsertAt(oid, "REPLACE", values); });
+    InStoreTerms([&] {
+        if (!m_replace.statement) m_replace = MakeInsertAt("REPLACE");
+        InsertAt(m_replace, oid, values);
+    });
+}
+
+void SqliteTable::Renamed(std::string const& sqlTable) {
+    Flush();
+    m_sqlTable = sqlTable;
+    m_insertOne = Insert();
+    m_insertMany = Insert();
+    m_replace = Insert();
+    m_find = SqliteStatement();
+    m_readers->clear();
 }
 
 SqliteStatement SqliteTable::TakeReader() {

@@ -50,6 +50,8 @@ public:
     void Flush();
 
     std::string const& SqlTable() const { return m_sqlTable; }
+    /// The SQL table bears another name now. No cursor is open.
+    void Renamed(std::string const& sqlTable);
 
 private:
     friend class SqliteCursor;
@@ -67,7 +69,8 @@ private:
     };
 
     Insert MakeInsert(int rows) const;
-    void InsertAt(int oid, char const* verb, rfm_Value const* values);
+    Insert MakeInsertAt(char const* verb) const;
+    void InsertAt(Insert& insert, int oid, rfm_Value const* values);
     void Wait(rfm_Value const* values);
     void RunInsert(Insert& insert, rfm_Value const* values);
     SqliteStatement TakeReader();
@@ -81,6 +84,8 @@ private:
     int m_rowCount = -1;  ///< not asked yet
     Insert m_insertOne;
     Insert m_insertMany;
+    Insert m_replace;
+    std::vector<rfm_Value> m_row;  ///< a row with its number before it
     Waiting m_waiting;
     SqliteStatement m_find;
     int m_findColumns[2] = {-1, -1};

@@ -1,18 +1,14 @@
 #include "nga_Store.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
+#include <climits>
+#include <functional>
 
 #include "cls_MetadataRegistrar.h"
 #include "mdl_Repository.h"
 #include "nex_Exception.h"
 #include "nga_SafeFile.h"
 #include "nga_SqliteDatabase.h"
+#include "nga_StoredFile.h"
 #include "omi_Singleton.h"
 #include "rom_Transporter.h"
 
@@ -20,37 +16,12 @@ namespace nga {
 
 namespace {
 
-// Where a SQLite file's header holds what is asked of it.
-constexpr int headerSize = 100;
-constexpr char const magic[] = "SQLite format 3";
-enum HeaderPlace {
-    PageSizePlace = 16,
-    WriteVersionPlace = 18,
-    ReadVersionPlace = 19,
-    PageCountPlace = 28,
-    EncodingPlace = 56,
-    UserVersionPlace = 60,
-    ApplicationPlace = 68
-};
-
 cls_ClassRegistrar const& Registrar() {
     return omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
 }
 
 std::string TextOf(nex_Exception const& exception) {
     return std::string(exception.AsString().View());
-}
-
-std::string HexOf(unsigned typeId) {
-    char text[16];
-    std::snprintf(text, sizeof text, "0x%X", typeId);
-    return text;
-}
-
-constexpr char const* currentOnly = "; this nga reads the current layouts only";
-
-std::string TextOf(CatalogueEntry const& entry) {
-    return "class " + entry.className + " (" + HexOf(entry.typeId) + ")";
 }
 
 // Runs work on a file, and puts the file's name to what goes wrong in it.
@@ -64,140 +35,6 @@ auto OnFile(std::string const& path, Work&& work) -> decltype(work()) {
         throw StoreError(path, error.what());
     }
 }
-
-class Descriptor {
-public:
-    explicit Descriptor(int file) : m_file(file) {}
-    ~Descriptor() {
-        if (m_file >= 0) close(m_file);
-    }
-    Descriptor(Descriptor const&) = delete;
-    Descriptor& operator=(Descriptor const&) = delete;
-    int Get() const { return m_file; }
-
-private:
-    int m_file;
-};
-
-unsigned BigEndian(unsigned char const* bytes, int count) {
-    unsigned value = 0;
-    for (int i = 0; i < count; ++i) value = value << 8 | bytes[i];
-    return value;
-}
-
-/// A file that was looked at from outside and found to be ours and readable.
-class StoredFile {
-public:
-    explicit StoredFile(std::string const& path) : m_path(path) {
-        struct stat state;
-        if (stat(path.c_str(), &state) != 0)
-            Fail(errno == ENOENT ? "there is no such file" : std::strerror(errno));
-        if (S_ISDIR(state.st_mode)) Fail("this is a folder");
-        if (!S_ISREG(state.st_mode)) Fail("this is no file");
-        Descriptor const file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-        if (file.Get() < 0) Fail(std::strerror(errno));
-        m_stamp = FileStamp::OfOpen(file.Get());
-        if (m_stamp.size == 0) Fail("the file is empty, not a database");
-        if (pread(file.Get(), m_header, headerSize, 0) != headerSize ||
-            std::memcmp(m_header, magic, sizeof magic) != 0)
-            Fail("this is no database");
-        RefuseJournals(path);
-        CheckHeader();
-    }
-
-    std::string const& Path() const { return m_path; }
-    FileStamp const& Stamp() const { return m_stamp; }
-    int Schema() const { return static_cast<int>(BigEndian(m_header + UserVersionPlace, 4)); }
-
-    std::unique_ptr<SqliteDatabase> Open() const {
-        auto database = SqliteDatabase::Open(m_path, m_stamp.size, LayoutOf);
-        std::string const by = database->Writer().empty() ? "" : " by " + database->Writer();
-        std::string const schema = "was written with schema " + std::to_string(Schema()) + by;
-        std::string const range =
-            std::to_string(oldestSchema) + " to " + std::to_string(currentSchema);
-        if (Schema() > currentSchema)
-            Fail(schema + "; this nga reads schemas " + range + ": a newer nga is needed");
-        if (Schema() < oldestSchema)
-            Fail(schema + ", which never was; this nga reads schemas " + range);
-        for (CatalogueEntry const& entry : database->Catalogue()) CheckClass(entry, schema);
-        // Only after that, so that a class of an old version is told before one that is too new.
-        for (CatalogueEntry const& entry : database->Catalogue())
-            if (entry.version > Schema())
-                Fail(schema + ", and yet holds " + TextOf(entry) + " in version " +
-                     std::to_string(entry.version) +
-                     ": it is damaged, or another program changed it");
-        return database;
-    }
-    // Whoever wrote into the file while it was read may have left us with half of it.
-    void CheckUnchanged() const {
-        if (FileStamp::Of(m_path) != m_stamp)
-            Fail("another program changed the file while it was read");
-    }
-    [[noreturn]] void Fail(std::string const& cause) const { throw StoreError(m_path, cause); }
-
-private:
-    void CheckHeader() const {
-        if (BigEndian(m_header + ApplicationPlace, 4) != storeApplicationId)
-            Fail("this is a database of another program");
-        if (m_header[WriteVersionPlace] != 1 || m_header[ReadVersionPlace] != 1)
-            Fail("the database is in write-ahead mode; PRAGMA journal_mode=DELETE ends it");
-        if (BigEndian(m_header + EncodingPlace, 4) != 1) Fail("its text is not in UTF-8");
-        unsigned const pageSize = BigEndian(m_header + PageSizePlace, 2);
-        long long const whole = static_cast<long long>(pageSize == 1 ? 65536 : pageSize) *
-                                BigEndian(m_header + PageCountPlace, 4);
-        if (m_stamp.size < whole)
-            Fail("the file is truncated: " + std::to_string(m_stamp.size) + " of " +
-                 std::to_string(whole) + " bytes are there");
-    }
-
-    void CheckClass(CatalogueEntry const& entry, std::string const& schema) const {
-        std::optional<Registered> const known = Known(entry.typeId);
-        if (known && entry.version == known->version && entry.className == known->name &&
-            entry.parentTypeId == known->parentTypeId)
-            return;
-        std::string const what = TextOf(entry);
-        if (!known) {
-            if (Schema() < currentSchema)
-                Fail(schema + " and holds " + what + ", which is gone" + currentOnly);
-            Fail("it holds " + what + ", which this nga does not know");
-        }
-        if (entry.version < known->version)
-            Fail(schema + " and holds " + what + " in version " + std::to_string(entry.version) +
-                 " of " + std::to_string(known->version) + currentOnly);
-        Fail("the catalogue of classes does not fit " + what);
-    }
-
-    /// What this build holds of a class, without its fields.
-    struct Registered {
-        std::string name;
-        int version;
-        unsigned parentTypeId;
-    };
-    static bool IsCollection(unsigned typeId) {
-        return typeId == cls_ListTypeId || typeId == cls_MapTypeId ||
-               typeId == rom_Layout::listEntryTypeId || typeId == rom_Layout::mapEntryTypeId;
-    }
-    static std::optional<Registered> Known(unsigned typeId) {
-        if (IsCollection(typeId)) {
-            rfm_TableMetadata const layout = rom_Layout::OfType(typeId, Registrar());
-            return Registered{std::string(layout.Name().View()), layout.Version(),
-                              layout.ParentTypeId()};
-        }
-        cls_ClassMetadata const* const metadata = Registrar().Find(typeId);
-        if (!metadata) return std::nullopt;
-        return Registered{std::string(metadata->Name().View()), metadata->Version(),
-                          metadata->ParentTypeId()};
-    }
-    static std::optional<rfm_TableMetadata> LayoutOf(CatalogueEntry const& entry) {
-        std::optional<Registered> const known = Known(entry.typeId);
-        if (!known || known->version != entry.version) return std::nullopt;
-        return rom_Layout::OfType(entry.typeId, Registrar());
-    }
-
-    std::string m_path;
-    FileStamp m_stamp;
-    unsigned char m_header[headerSize] = {};
-};
 
 // What a class raises while it is read knows not where; what the frame and the store raise names
 // the table itself, wherever it knows more of it.
@@ -249,10 +86,12 @@ FileStamp SaveModel(ddr_Model const& model, std::string const& path, SaveOptions
     });
 }
 
-std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp) {
+std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp,
+                                     std::string const& name) {
     return OnFile(path, [&] {
         StoredFile const file(path);
-        auto model = std::make_unique<ddr_Model>(cow_String(std::string_view(StemOf(path))));
+        std::string const given = name.empty() ? StemOf(path) : name;
+        auto model = std::make_unique<ddr_Model>(cow_String(std::string_view(given)));
         {
             std::unique_ptr<SqliteDatabase> const database = file.Open();
             database->Tables();
@@ -279,6 +118,73 @@ std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp) 
         file.CheckUnchanged();
         if (stamp) *stamp = file.Stamp();
         return model;
+    });
+}
+
+namespace {
+
+// The rows of a map from names, to which a field of an extension's row refers.
+void EachEntry(rfm_Database& database, int map,
+               std::function<void(std::string const&, unsigned, int)> const& each) {
+    rfm_Table* const maps = database.FindTable(cls_MapTypeId);
+    rfm_Table* const entries = database.FindTable(rom_Layout::mapEntryTypeId);
+    if (!maps || !entries) return;
+    std::unique_ptr<rfm_Cursor> const at = maps->OpenCursor();
+    if (!at->Seek(map)) return;
+    long long const first = at->Value(rom_Layout::MapFirst).integer;
+    long long const count = at->Value(rom_Layout::MapCount).integer;
+    std::unique_ptr<rfm_Cursor> const entry = entries->OpenCursor();
+    for (long long row = first; row < first + count; ++row) {
+        if (row < 0 || row > INT_MAX || !entry->Seek(static_cast<int>(row))) return;
+        rfm_Value const key = entry->Value(rom_Layout::MapEntryKey);
+        rfm_Value const typeId = entry->Value(rom_Layout::MapEntryClass);
+        rfm_Value const oid = entry->Value(rom_Layout::MapEntryOid);
+        if (key.tag != rfm_Value::Text || typeId.tag != rfm_Value::Int || oid.tag != rfm_Value::Int)
+            continue;
+        each(std::string(key.text, static_cast<std::size_t>(key.length)),
+             static_cast<unsigned>(typeId.integer), static_cast<int>(oid.integer));
+    }
+}
+
+}  // namespace
+
+std::vector<UnreadableObject> FindUnreadable(std::string const& path) {
+    return OnFile(path, [&] {
+        StoredFile const file(path);
+        std::unique_ptr<SqliteDatabase> const database = file.Open();
+        std::vector<UnreadableObject> result;
+        ddr_Model::RegisteredExtensions().Each(
+            [&](cow_String const& name, mdl_Extension const& prototype) {
+                rfm_Table* const table = database->FindTable(prototype.DynTypeId());
+                if (!table || table->RowCount() != 1) return;
+                std::unique_ptr<rfm_Cursor> const row = table->OpenCursor();
+                if (!row->Seek(0)) return;
+                rfm_TableMetadata const& layout = table->Metadata();
+                for (int i = 0; i + 1 < layout.ColumnCount(); ++i) {
+                    std::string const column =
+                        layout.Columns()[static_cast<std::size_t>(i)].name.Text();
+                    std::size_t const ending = column.rfind("#ClassID");
+                    rfm_Value const map = row->Value(i + 1);
+                    if (ending == std::string::npos || map.tag != rfm_Value::Int ||
+                        row->Value(i).integer != static_cast<long long>(cls_MapTypeId))
+                        continue;
+                    std::string field = column.substr(0, ending);
+                    if (field == "extension") field = name.Text();
+                    EachEntry(*database, static_cast<int>(map.integer),
+                              [&](std::string const& key, unsigned typeId, int oid) {
+                                  rom_Transporter transporter(*database, Registrar());
+                                  try {
+                                      transporter.Read(typeId, oid);
+                                  } catch (nex_Exception const& failure) {
+                                      std::string const place = transporter.FailedAt();
+                                      result.push_back(
+                                          {field, key,
+                                           (place.empty() ? "" : place + ": ") + TextOf(failure)});
+                                  }
+                              });
+                }
+            });
+        return result;
     });
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cow_ErasedHandle.h"
 #include "ddr_Model.h"
@@ -29,8 +30,19 @@ struct SaveOptions {
 FileStamp SaveModel(ddr_Model const& model, std::string const& path,
                     SaveOptions const& options = {});
 
-/// Reads a file into a new model, which bears the name of the file without folder and extension.
-std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp = nullptr);
+/// Reads a file into a new model, which bears the given name, or that of the file without folder
+/// and extension.
+std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp = nullptr,
+                                     std::string const& name = {});
+
+/// A named object that cannot be read.
+struct UnreadableObject {
+    std::string collection;  ///< "materials"
+    std::string name;
+    std::string cause;
+};
+/// Reads every named object of a file by itself and lists those that fail.
+std::vector<UnreadableObject> FindUnreadable(std::string const& path);
 
 /// Reads one object of a repository by its name, and what it refers to, and nothing else. A handle
 /// on nothing if there is no object of the name.

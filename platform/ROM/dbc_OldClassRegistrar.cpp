@@ -11,6 +11,7 @@ void dbc_OldClassVersion::SchemaChanges(dbc_DatabaseConverter&) const {}
 void dbc_OldClassVersion::ClassesToDelete(dbc_DatabaseConverter&) const {}
 void dbc_OldClassVersion::ClassesToRename(dbc_DatabaseConverter&) const {}
 void dbc_OldClassVersion::TablesToRename(dbc_DatabaseConverter&) const {}
+void const* dbc_OldClassVersion::Identity() const { return nullptr; }
 
 namespace {
 
@@ -37,7 +38,7 @@ void dbc_OldClassRegistrar::Register(cow_CountedHld<dbc_OldClassVersion>* holder
     dbc_OldClassVersion const& given = holder->GetRef();
     auto same = std::find_if(m_entries.begin(), m_entries.end(), [&](Entry const& entry) {
         dbc_OldClassVersion const& known = entry.holder->GetRef();
-        return typeid(known) == typeid(given);
+        return typeid(known) == typeid(given) && known.Identity() == given.Identity();
     });
     if (same == m_entries.end()) {
         m_entries.push_back({holder, mask});

@@ -15,4 +15,7 @@ public:
     virtual void ClassesToDelete(dbc_DatabaseConverter& converter) const;
     virtual void ClassesToRename(dbc_DatabaseConverter& converter) const;
     virtual void TablesToRename(dbc_DatabaseConverter& converter) const;
+
+    /// What tells old classes of one C++ class apart; null where each has a C++ class of its own.
+    virtual void const* Identity() const;
 };

@@ -186,7 +186,11 @@ public:
     cls_ReadMapInt2Obj* OpenMapInt() override;
     cls_ReadMapString2Obj* OpenMapString() override;
     void ReadList(cow_List<double>& result) override {
-        rfm_Value const data = Array(cls_CollectionListDouble, sizeof(double));
+        // Older databases have lists that were tables: their cells, row after row.
+        bool const wasTable =
+            m_table && Integer(rom_Layout::ListKind, INT_MAX) == cls_CollectionArray2DDouble;
+        rfm_Value const data = Array(
+            wasTable ? cls_CollectionArray2DDouble : cls_CollectionListDouble, sizeof(double));
         for (int i = 0; i < data.length / static_cast<int>(sizeof(double)); ++i) {
             double value;
             std::memcpy(&value, static_cast<char const*>(data.bytes) + i * 8, sizeof value);

@@ -1,5 +1,7 @@
 #include "rom_Transporter.h"
 
+#include "cls_Codes.h"
+#include "dbc_OldLayouts.h"
 #include "nex_TextException.h"
 #include "rom_Reader.h"
 #include "rom_Writer.h"
@@ -12,6 +14,13 @@ rom_Transporter::~rom_Transporter() = default;
 rfm_TableMetadata rom_Transporter::GetTableMetadata(unsigned typeId) const {
     if (rfm_Table const* table = m_database.FindTable(typeId)) return table->Metadata();
     return rom_Layout::OfType(typeId, m_registrar);
+}
+
+rfm_TableMetadata rom_Transporter::GetTableMetadata(unsigned typeId, int version) const {
+    if (m_oldLayouts)
+        if (rfm_TableMetadata const* layout = m_oldLayouts->InForce(typeId, version))
+            return *layout;
+    return rfm_TableMetadata(typeId, cow_String(), version, cls_RootTypeId);
 }
 
 int rom_Transporter::Write(void const* object, unsigned typeId) {

@@ -8,6 +8,7 @@
 #include "rfm_Database.h"
 
 class cls_WriteVisitor;
+class dbc_OldLayouts;
 class mdl_Extension;
 class rom_Writer;
 class rom_Reader;
@@ -56,6 +57,10 @@ public:
     cls_ClassRegistrar const& Registrar() const { return m_registrar; }
     /// The layout of a class in this store: that of its table, or the registered one.
     rfm_TableMetadata GetTableMetadata(unsigned typeId) const;
+    /// The layout of a class at a version, where the transporter is one of an upgrade; without
+    /// columns for a class that is not known.
+    rfm_TableMetadata GetTableMetadata(unsigned typeId, int version) const;
+    void SetOldLayouts(dbc_OldLayouts* layouts) { m_oldLayouts = layouts; }
 
     /// Writes an object through its class's metadata; the number of its row.
     int Write(void const* object, unsigned typeId);
@@ -76,4 +81,5 @@ private:
     cls_ClassRegistrar const& m_registrar;
     std::unique_ptr<rom_Writer> m_writer;
     std::unique_ptr<rom_Reader> m_reader;
+    dbc_OldLayouts* m_oldLayouts = nullptr;
 };

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "rfm_Array.h"
 #include "rfm_TableMetadata.h"
 #include "rfm_Value.h"
 
@@ -46,4 +47,25 @@ public:
     virtual rfm_Table& CreateTable(rfm_TableMetadata const& metadata) = 0;
     /// All tables, by rising TypeId.
     virtual std::vector<rfm_Table*> Tables() = 0;
+
+    /// Opens the array that a row's handle refers to. The numbers are for stores that keep arrays
+    /// apart from rows: first record and mode; -1 and 0 mean the whole, for reading.
+    std::unique_ptr<rfm_Array<double, 4>> ArrayDouble(rfm_Handle const& handle, int first,
+                                                      int mode);
+    /// Makes a new, empty array of \p width numbers a value.
+    std::unique_ptr<rfm_Array<double, 4>> ArrayDouble(int width, int first, int mode);
+};
+
+/// A store that begins as a copy of another and becomes its successor, table by table.
+class rfm_WorkDatabase : public rfm_Database {
+public:
+    /// Makes a table that is to take the place of the one of its TypeId, if there is one. With \p
+    /// keepFormer, the former table can be read until \ref Settle; else it ends now, which saves
+    /// the room for both. There is one such table of a TypeId at a time.
+    virtual rfm_Table& MakeSuccessor(rfm_TableMetadata const& metadata, bool keepFormer) = 0;
+    /// Puts the successor in the former table's place. No cursor on either is open; pointers to the
+    /// former table end, those to the successor stay good.
+    virtual void Settle(unsigned typeId) = 0;
+    /// Removes a table, on which no cursor is open.
+    virtual void DropTable(unsigned typeId) = 0;
 };

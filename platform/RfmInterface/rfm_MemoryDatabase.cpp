@@ -98,7 +98,30 @@ private:
 
 }  // namespace
 
+std::unique_ptr<rfm_Array<double, 4>> rfm_Database::ArrayDouble(rfm_Handle const& handle, int,
+                                                                int) {
+    return std::make_unique<rfm_Array<double, 4>>(handle);
+}
+
+std::unique_ptr<rfm_Array<double, 4>> rfm_Database::ArrayDouble(int, int, int) {
+    return std::make_unique<rfm_Array<double, 4>>(rfm_Handle());
+}
+
 rfm_MemoryDatabase::rfm_MemoryDatabase() = default;
+
+void rfm_MemoryDatabase::CopyFrom(rfm_Database& other) {
+    std::vector<rfm_Value> values;
+    for (rfm_Table* from : other.Tables()) {
+        rfm_Table& to = CreateTable(from->Metadata());
+        values.resize(from->Metadata().Columns().size());
+        std::unique_ptr<rfm_Cursor> const cursor = from->OpenCursor();
+        for (int oid = 0; oid < from->RowCount() && cursor->Seek(oid); ++oid) {
+            for (std::size_t i = 0; i < values.size(); ++i)
+                values[i] = cursor->Value(static_cast<int>(i));
+            to.Append(values.data());
+        }
+    }
+}
 rfm_MemoryDatabase::~rfm_MemoryDatabase() = default;
 
 rfm_Table* rfm_MemoryDatabase::FindTable(unsigned typeId) {
@@ -120,3 +143,22 @@ std::vector<rfm_Table*> rfm_MemoryDatabase::Tables() {
     for (auto const& [typeId, table] : m_tables) result.push_back(table.get());
     return result;
 }
+
+rfm_Table& rfm_MemoryDatabase::MakeSuccessor(rfm_TableMetadata const& metadata, bool keepFormer) {
+    auto [place, made] = m_successors.try_emplace(metadata.TypeId());
+    if (!made)
+        nex_TextException(atr_raw("A table was to get two successors at once."))
+            .Throw("platform/RfmInterface/rfm_MemoryDatabase", __LINE__);
+    place->second = std::make_unique<MemoryTable>(metadata);
+    if (!keepFormer) m_tables.erase(metadata.TypeId());
+    return *place->second;
+}
+
+void rfm_MemoryDatabase::Settle(unsigned typeId) {
+    auto const successor = m_successors.find(typeId);
+    if (successor == m_successors.end()) return;
+    m_tables[typeId] = std::move(successor->second);
+    m_successors.erase(successor);
+}
+
+void rfm_MemoryDatabase::DropTable(unsigned typeId) { m_tables.erase(typeId); }

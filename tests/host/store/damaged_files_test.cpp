@@ -104,11 +104,16 @@ TEST_F(DamagedFile, IsOfAnOlderSchema) {
     EXPECT_EQ(RefusalAfter("PRAGMA user_version=450;UPDATE nga_Catalogue SET Version=301 WHERE "
                            "TableName='kmaC_Material'"),
               "was written with schema 450 by nga 0.1.0 and holds class kmaC_Material (0x2380001) "
-              "in version 301 of 1106; this nga reads the current layouts only");
+              "in version 301 of 1106; to bring it to schema 1111, run: nga upgrade " +
+                  folder.File("damaged.nga"));
     EXPECT_EQ(RefusalAfter("PRAGMA user_version=1050;UPDATE nga_Catalogue SET TypeId=99 WHERE "
                            "TableName='kmaC_Elastic'"),
-              "was written with schema 1050 by nga 0.1.0 and holds class kmaC_Elastic (0x63), "
-              "which is gone; this nga reads the current layouts only");
+              "it holds class kmaC_Elastic (0x63), which this nga does not know");
+    EXPECT_EQ(RefusalAfter("PRAGMA user_version=451;UPDATE nga_Catalogue SET TypeId=37224458,"
+                           "ClassName='kmaC_CapCreep' WHERE TableName='kmaC_Elastic'"),
+              "was written with schema 451 by nga 0.1.0 and holds class kmaC_CapCreep (0x238000A), "
+              "which is gone; to bring it to schema 1111, run: nga upgrade " +
+                  folder.File("damaged.nga"));
 }
 
 TEST_F(DamagedFile, HoldsAClassThatItsSchemaDoesNotHaveYet) {

@@ -14,6 +14,7 @@
 #include "kamC_Spectrum.h"
 #include "kamC_Tabular.h"
 #include "kamC_UserAmplitude.h"
+#include "kamC_oldClasses.h"
 #include "omi_Singleton.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
@@ -56,6 +57,7 @@ void kamC_initialize(int& count) {
     for (cls_MetadataRegistrar::Callback const metadata : kamClasses)
         registrar.initClassMetadata(metadata, cls_DomainsAll);
     registrar.initClassMetadata(kamC_ACWrapper::InitializeMetadata, cls_DomainDatabase);
+    kamC_RegisterOldClasses();
 }
 
 void kamC_finalize(int& count) {

@@ -12,6 +12,7 @@
 #include "kbeC_ConnectorPlasticity.h"
 #include "kbeC_ConnectorStop.h"
 #include "kbeC_ContactForce.h"
+#include "kbeC_oldClasses.h"
 #include "omi_Singleton.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
@@ -49,6 +50,7 @@ void kbeC_initialize(int& count) {
     cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
     for (cls_MetadataRegistrar::Callback each : kbeClasses)
         registrar.initClassMetadata(each, cls_DomainsAll);
+    kbeC_RegisterOldClasses();
 }
 
 void kbeC_finalize(int& count) { kbeGuard.Lower(count); }

@@ -16,6 +16,7 @@
 #include "kbpC_RectangularProfile.h"
 #include "kbpC_TbeamProfile.h"
 #include "kbpC_TrapezoidalProfile.h"
+#include "kbpC_oldClasses.h"
 #include "omi_Singleton.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
@@ -52,6 +53,7 @@ void kbpC_initialize(int& count) {
     registrar.initClassMetadata(kbpC_BeamProfileContainer::InitializeMetadata,
                                 cls_DomainLibrary | cls_DomainMemory);
     registrar.initClassMetadata(kbpC_BPCWrapper::InitializeMetadata, cls_DomainDatabase);
+    kbpC_RegisterOldClasses();
 }
 
 void kbpC_finalize(int& count) {

@@ -6,6 +6,7 @@
 #include "kflC_ButterworthFilter.h"
 #include "kflC_Chebyshev1Filter.h"
 #include "kflC_Chebyshev2Filter.h"
+#include "kflC_oldClasses.h"
 #include "omi_Singleton.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
@@ -35,6 +36,7 @@ void kflC_initialize(int& count) {
     registrar.initClassMetadata(kflC_Filter::InitializeMetadata, cls_DomainsAll);
     registrar.initClassMetadata(kflC_FilterContainer::InitializeMetadata,
                                 cls_DomainLibrary | cls_DomainMemory);
+    kflC_RegisterOldClasses();
 }
 
 void kflC_finalize(int& count) {

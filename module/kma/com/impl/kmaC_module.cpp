@@ -124,6 +124,7 @@
 #include "kmaC_Viscous.h"
 #include "kmaC_VoidNucleation.h"
 #include "kmaC_VolumetricTestData.h"
+#include "kmaC_oldClasses.h"
 #include "omi_Singleton.h"
 #include "typ_ArchCompTable.h"
 #include "uti_Guard.h"
@@ -281,6 +282,7 @@ void kmaC_initialize(int& count) {
     cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
     for (Registration const& each : kmaClasses)
         registrar.initClassMetadata(each.metadata, each.mask);
+    kmaC_RegisterOldClasses();
 }
 
 void kmaC_finalize(int& count) {

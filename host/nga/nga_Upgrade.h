@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "nga_Check.h"
+#include "nga_UpgradeFile.h"
+
+namespace nga {
+
+/// What an upgrade of a file did, and what a person has to look at afterwards.
+struct UpgradeOutcome {
+    std::string path;
+    std::string output;  ///< where the current database is
+    bool dryRun = false;
+    UpgradedFile file;
+    /// Named objects that cannot be read, each with its path and cause.
+    std::vector<Finding> unreadable;
+    /// Objects that break a rule of their class.
+    std::vector<Finding> findings;
+
+    bool HasFindings() const { return !unreadable.empty() || !findings.empty(); }
+};
+
+/// Brings a file to the current schema and looks at every object of it. The options' own inspection
+/// is not used.
+UpgradeOutcome Upgrade(std::string const& path, UpgradeFileOptions options = {});
+
+/// The account of an upgrade for people: what was done to each class, then what is to be looked at.
+std::string UpgradeText(UpgradeOutcome const& outcome);
+std::string UpgradeJson(UpgradeOutcome const& outcome);
+
+}  // namespace nga

@@ -1,0 +1,216 @@
+#include "nga_UpgradeFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include "cls_MetadataRegistrar.h"
+#include "dbc_Upgrade.h"
+#include "ddr_Model.h"
+#include "nex_Exception.h"
+#include "nga_SafeFile.h"
+#include "nga_SqliteDatabase.h"
+#include "nga_StoreError.h"
+#include "nga_StoredFile.h"
+#include "omi_Singleton.h"
+
+namespace nga {
+
+namespace {
+
+constexpr std::size_t copyBuffer = 1 << 20;
+constexpr std::size_t copyAtOnce = 1 << 30;
+constexpr int backupsAtMost = 1000;
+
+class OpenFile {
+public:
+    OpenFile(std::string const& path, int flags, mode_t mode = 0)
+        : m_file(open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+    ~OpenFile() {
+        if (m_file >= 0) close(m_file);
+    }
+    OpenFile(OpenFile const&) = delete;
+    OpenFile& operator=(OpenFile const&) = delete;
+    int Get() const { return m_file; }
+
+private:
+    int m_file;
+};
+
+// Copies a whole file over an open, empty one; false with errno set.
+bool CopyBytes(int from, int to) {
+    // The kernel's own copy costs no buffer, and on some file systems no room.
+    for (;;) {
+        ssize_t const done = copy_file_range(from, nullptr, to, nullptr, copyAtOnce, 0);
+        if (done == 0) return true;
+        if (done < 0) break;
+    }
+    if (errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP) return false;
+    if (lseek(from, 0, SEEK_SET) < 0 || lseek(to, 0, SEEK_SET) < 0) return false;
+    std::vector<char> buffer(copyBuffer);
+    for (;;) {
+        ssize_t const length = read(from, buffer.data(), buffer.size());
+        if (length == 0) return true;
+        if (length < 0) return false;
+        for (ssize_t written = 0; written < length;) {
+            ssize_t const part =
+                write(to, buffer.data() + written, static_cast<std::size_t>(length - written));
+            if (part < 0) return false;
+            written += part;
+        }
+    }
+}
+
+void CopyFile(std::string const& from, std::string const& to) {
+    OpenFile const source(from, O_RDONLY), target(to, O_WRONLY | O_TRUNC);
+    if (source.Get() < 0) throw StoreError(from, std::strerror(errno));
+    if (target.Get() < 0 || !CopyBytes(source.Get(), target.Get()))
+        throw StoreError(from, std::string("it cannot be copied: ") + std::strerror(errno));
+}
+
+/// A file in the folder for such, which goes with this object.
+class Scratch {
+public:
+    explicit Scratch(std::string const& of) {
+        std::error_code ignored;
+        std::string pattern =
+            (std::filesystem::temp_directory_path(ignored) / "nga-dry-run-XXXXXX").string();
+        int const file = mkstemp(pattern.data());
+        if (file < 0)
+            throw StoreError(
+                of, std::string("there is no room for a scratch copy: ") + std::strerror(errno));
+        close(file);
+        m_path = pattern;
+    }
+    ~Scratch() { unlink(m_path.c_str()); }
+    Scratch(Scratch const&) = delete;
+    Scratch& operator=(Scratch const&) = delete;
+    std::string const& Path() const { return m_path; }
+
+private:
+    std::string m_path;
+};
+
+// Gives the old file a second name, under which it stays, or copies it where it cannot have one.
+std::string KeepBeside(std::string const& path, int schema) {
+    std::error_code ignored;
+    std::filesystem::path const real = std::filesystem::canonical(path, ignored);
+    std::string const source = real.empty() ? path : real.string();
+    std::string const name = path + ".schema-" + std::to_string(schema) + ".bak";
+    for (int number = 1; number <= backupsAtMost; ++number) {
+        std::string const backup = number == 1 ? name : name + "." + std::to_string(number);
+        if (link(source.c_str(), backup.c_str()) == 0) return backup;
+        if (errno == EEXIST) continue;
+        struct stat state;
+        if (stat(source.c_str(), &state) != 0)
+            throw StoreError(path,
+                             std::string("it cannot be kept beside: ") + std::strerror(errno));
+        OpenFile const target(backup, O_WRONLY | O_CREAT | O_EXCL, state.st_mode & 0777);
+        if (target.Get() < 0 && errno == EEXIST) continue;
+        OpenFile const from(source, O_RDONLY);
+        if (target.Get() < 0 || from.Get() < 0 || !CopyBytes(from.Get(), target.Get()) ||
+            fsync(target.Get()) != 0) {
+            int const why = errno;
+            if (target.Get() >= 0) unlink(backup.c_str());
+            throw StoreError(path,
+                             "it cannot be kept beside as " + backup + ": " + std::strerror(why));
+        }
+        return backup;
+    }
+    throw StoreError(path, "there are too many old files beside it");
+}
+
+struct Work {
+    StoredFile const& file;
+    UpgradeFileOptions const& options;
+};
+
+dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
+    CopyFile(work.file.Path(), part);
+    work.file.CheckUnchanged();
+    std::unique_ptr<SqliteDatabase> const original = work.file.OpenOld();
+    std::unique_ptr<SqliteDatabase> const database =
+        SqliteDatabase::Continue(part, work.file.Stamp().size);
+    dbc_UpgradeOptions options;
+    options.complete = work.options.complete;
+    if (work.options.progress) {
+        options.progress = [](void* context, long long rows) {
+            (*static_cast<std::function<void(long long)> const*>(context))(rows);
+        };
+        options.progressContext =
+            const_cast<void*>(static_cast<void const*>(&work.options.progress));
+    }
+    cls_ClassRegistrar const& current =
+        omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
+    dbc_UpgradeReport report;
+    {
+        dbc_Upgrade upgrade(*original, *database, current,
+                            omi_Singleton<dbc_OldClassRegistrar>::Instance(), options);
+        report = upgrade.Run();
+    }
+    report.references = dbc_Upgrade::LookAtReferences(*database, current);
+    // Nothing refers to what the model itself holds.
+    ddr_Model::RegisteredExtensions().Each([&](cow_String const&, mdl_Extension const& extension) {
+        std::erase_if(report.references.unreferenced, [&](dbc_UnreferencedReport const& each) {
+            return each.typeId == extension.DynTypeId();
+        });
+    });
+    database->AddIndex(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
+                       rom_Layout::MapEntryKey);
+    database->Finish();
+    work.file.CheckUnchanged();
+    if (work.options.inspect) work.options.inspect(part);
+    return report;
+}
+
+UpgradedFile Upgrade(std::string const& path, UpgradeFileOptions const& options) {
+    StoredFile const file(path);
+    UpgradedFile result;
+    result.schema = file.Schema();
+    {
+        std::unique_ptr<SqliteDatabase> const database = file.OpenOld();
+        result.writer = database->Writer();
+        for (rfm_Table* table : database->Tables()) result.rows += table->RowCount();
+    }
+    if (file.IsCurrent() && options.output.empty()) {
+        result.current = true;
+        return result;
+    }
+    Work const work{file, options};
+    if (options.dryRun) {
+        Scratch const scratch(path);
+        result.report = Convert(work, scratch.Path());
+        return result;
+    }
+    SafeFile target(options.output.empty() ? path : options.output);
+    result.report = Convert(work, target.PartPath());
+    if (options.output.empty()) result.backup = KeepBeside(path, result.schema);
+    try {
+        target.Commit();
+    } catch (...) {
+        if (!result.backup.empty()) unlink(result.backup.c_str());
+        throw;
+    }
+    return result;
+}
+
+}  // namespace
+
+UpgradedFile UpgradeFile(std::string const& path, UpgradeFileOptions const& options) {
+    try {
+        return Upgrade(path, options);
+    } catch (nex_Exception const& exception) {
+        throw StoreError(path, std::string(exception.AsString().View()));
+    } catch (SqliteError const& error) {
+        throw StoreError(path, error.what());
+    }
+}
+
+}  // namespace nga
