@@ -25,6 +25,7 @@ class mdl_RuleVisitor {
 public:
     /// Returns whether the rule holds, so that what may be read only if it does can depend on it.
     bool Rule(bool holds, int code) {
+        Seen(code);
         if (!holds) Failed(code);
         return holds;
     }
@@ -48,6 +49,8 @@ public:
 protected:
     ~mdl_RuleVisitor() = default;
     virtual void Failed(int code) = 0;
+    /// Every rule that is come to, whether it holds or not: for those who list a class's rules.
+    virtual void Seen(int /*code*/) {}
     /// \p member is the address of the member that holds \p object, \p index its place in a list.
     virtual void Object(void const* member, int index, void const* object, mdl_Asked how) = 0;
 

@@ -1,0 +1,23 @@
+"""Attribute models of finite-element pre-processors: materials, amplitudes, profiles, filters, load
+cases and what else the library registers.
+
+    import nga
+    doc = nga.new('bracket')
+    steel = doc.Material(name='steel')
+    steel.Elastic(table=((210e3, 0.3),))
+    doc.materials['steel'].elastic.type = nga.ISOTROPIC
+    doc.save_as('bracket.nga')
+
+Classes (nga.Elastic) and literals (nga.ISOTROPIC) are made from the library's own metadata.
+"""
+from ._nga import Error, Snapshot, StoreError, ValidationError
+from . import _classes
+from ._literal import Literal
+from ._model import (MISSING, Difference, Document, Finding, FloatMap, Journal, Object, ObjectList,
+                     Options, Repository, documents, empty_table, from_dict, new, open, real)
+
+__version__ = "0.1.0"
+
+_classes.make(globals())
+
+__all__ = sorted(name for name in globals() if not name.startswith("_"))
