@@ -420,7 +420,7 @@ ReferenceError when the path leads nowhere any more."""
         if self.path is not None:
             return f"<{type(self).__name__} {self.path}{'' if self.alive else ' (gone)'}>"
         text = _nga.expression(self)
-        return text[4:] if len(text) <= 120 and "\n" not in text else \
+        return text if len(text) <= 120 and "\n" not in text else \
             f"<{type(self).__name__} of no document>"
 
     def _repr_html_(self):
