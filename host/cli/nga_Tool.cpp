@@ -15,8 +15,11 @@
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
 #include "nga_Path.h"
+#include "nga_Reference.h"
 #include "nga_Schema.h"
 #include "nga_Script.h"
+#include "nga_Start.h"
+#include "nga_Stubs.h"
 #include "nga_Tree.h"
 
 namespace nga {
@@ -38,6 +41,8 @@ struct Arguments {
     std::string other;
     std::vector<double> tolerance;
     bool script = false;
+    bool stubs = false;
+    bool markdown = false;
     bool json = false;
     bool paths = false;
     bool deep = false;
@@ -172,6 +177,8 @@ public:
                     &Tool::Schema);
         verb->add_option("CLASS", a.className, "Persistent name, script constructor or 0x TypeId")
             ->type_name("");
+        verb->add_flag("--markdown", a.markdown, "Reference pages, with the rules, in Markdown");
+        verb->add_flag("--stubs", a.stubs, "The type stubs of the Python module");
         Json(verb);
 
         verb = Verb("journal", "Show the change records of an import, without saving anything",
@@ -473,9 +480,16 @@ private:
     }
 
     int Schema() {
+        if (m_arguments.stubs) {
+            Start();
+            m_console.Result(StubText());
+            return exitFine;
+        }
         auto const classes =
             m_arguments.className.empty() ? SchemaClasses() : SchemaClasses(m_arguments.className);
-        m_console.Result(m_arguments.json ? SchemaJson(classes) : SchemaText(classes));
+        m_console.Result(m_arguments.markdown ? ReferencePage(classes)
+                         : m_arguments.json   ? SchemaJson(classes)
+                                              : SchemaText(classes));
         return exitFine;
     }
 

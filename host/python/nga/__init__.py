@@ -10,14 +10,10 @@ cases and what else the library registers.
 
 Classes (nga.Elastic) and literals (nga.ISOTROPIC) are made from the library's own metadata.
 """
-from ._nga import Error, Snapshot, StoreError, ValidationError
-from . import _classes
 from ._literal import Literal
-from ._model import (MISSING, Difference, Document, Finding, FloatMap, Journal, Object, ObjectList,
-                     Options, Repository, documents, empty_table, from_dict, new, open, real)
+from ._made import *
+from ._model import (MISSING, Difference, Finding, FloatMap, Journal, Object, ObjectList, Options,
+                     Repository, documents, empty_table, from_dict, new, open, real)
+from ._nga import Error, Snapshot, StoreError, ValidationError
 
 __version__ = "0.1.0"
-
-_classes.make(globals())
-
-__all__ = sorted(name for name in globals() if not name.startswith("_"))

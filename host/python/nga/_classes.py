@@ -1,7 +1,7 @@
 """Makes the Python classes from the registered metadata, when the package is imported."""
 from . import _nga
 from ._literal import Literal
-from ._model import Document, FloatMap, Object, ObjectList, Repository
+from ._model import FloatMap, Object, ObjectList, Repository
 
 #: Every class's facts, as the library tells them, by TypeId.
 facts_of = {}
@@ -9,8 +9,9 @@ facts_of = {}
 class_of = {}
 
 
-def make(namespace):
-    """Puts a class for each registered one, and a constant for each literal, into the namespace."""
+def make(namespace, base):
+    """Puts a class for each registered one, and a constant for each literal, into the namespace;
+    gives the class of documents."""
     facts = _nga.classes()
     for one in facts:
         facts_of[one["type_id"]] = one
@@ -19,9 +20,11 @@ def make(namespace):
         _make_class(one, namespace)
     for one in facts:
         _add_constructors(one)
-    Document._collections = {}
+    document = type("Document", (base,), {"__module__": "nga", "__doc__": base.__doc__,
+                                          "_collections": {}})
     for index, (name, held, classes) in enumerate(_nga.collections()):
-        _add_collection(index, name, held, classes)
+        _add_collection(document, index, name, held, classes)
+    return document
 
 
 def _make_class(facts, namespace):
@@ -84,18 +87,18 @@ def _constructor(owner, script, name, made):
     return construct
 
 
-def _add_collection(index, name, held, classes):
+def _add_collection(document, index, name, held, classes):
     def repository(self):
         return Repository(self, index, name)
 
     repository.__doc__ = f"The {class_of[held].__name__} objects by name."
-    Document._collections[name] = index
-    setattr(Document, name, property(repository))
+    document._collections[name] = index
+    setattr(document, name, property(repository))
     for type_id in classes:
-        _add_document_constructor(index, class_of[type_id])
+        _add_document_constructor(document, index, class_of[type_id])
 
 
-def _add_document_constructor(index, made):
+def _add_document_constructor(document, index, made):
     type_id = made._type_id
     name = made.__name__
 
@@ -107,4 +110,4 @@ def _add_document_constructor(index, made):
     construct.__module__ = "nga"
     construct.__doc__ = (f"Makes a {name} of that name from these fields, and checks it unless "
                          f"validate is false. See help(nga.{name}).")
-    setattr(Document, name, construct)
+    setattr(document, name, construct)

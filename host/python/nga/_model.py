@@ -5,9 +5,15 @@ import copyreg
 import json
 import os
 import weakref
-from typing import Any, NamedTuple
+from collections.abc import Mapping
+from typing import TYPE_CHECKING, Any, NamedTuple, TypeVar
 
 from . import _nga
+
+if TYPE_CHECKING:
+    from ._made import Document
+
+_Held = TypeVar("_Held")
 
 
 class Finding(NamedTuple):
@@ -48,7 +54,7 @@ MISSING = _Missing()
 
 # ---- documents -----------------------------------------------------------------------------------
 
-class _Documents(collections.abc.Mapping):
+class _Documents(collections.abc.Mapping[str, "Document"]):
     """The open documents by name, as paths begin with it. It keeps none alive; of two with one name
     it gives the one that was opened last."""
 
@@ -82,12 +88,17 @@ class _Documents(collections.abc.Mapping):
 documents = _Documents()
 
 
-def new(name):
+def _document(session: Any) -> "Document":
+    from ._made import Document
+    return Document(session)
+
+
+def new(name: str) -> "Document":
     """A document in memory, without a file."""
-    return Document(_nga.Session.new(name))
+    return _document(_nga.Session.new(name))
 
 
-def open(path, name=None):
+def open(path: str | os.PathLike[str], name: str | None = None) -> "Document":
     """The document of a file: a database, or a text if its name ends in .json. It is named by the
     file, or as said. Opening never writes, and a text is not written back."""
     path = os.fspath(path)
@@ -95,16 +106,16 @@ def open(path, name=None):
         with builtins.open(path, encoding="utf-8", errors="surrogateescape") as file:
             text = file.read()
         stem = os.path.splitext(os.path.basename(path))[0]
-        return Document(_nga.Session.from_json(name or stem, text))
+        return _document(_nga.Session.from_json(name or stem, text))
     session = _nga.Session.open(path)
     if name is not None:
         session.name = name
-    return Document(session)
+    return _document(session)
 
 
-def from_dict(name, content):
+def from_dict(name: str, content: Mapping[str, Any]) -> "Document":
     """A document from what to_dict() gave."""
-    return Document(_nga.Session.from_json(name, json.dumps(content)))
+    return _document(_nga.Session.from_json(name, json.dumps(content)))
 
 
 class _Edit:
@@ -126,7 +137,7 @@ class _Edit:
         return False
 
 
-class Document:
+class DocumentBase:
     """A model that a script works on: objects by name in its collections. It belongs to the thread
     that opened it. nga.new() and nga.open() make one."""
 
@@ -135,16 +146,16 @@ class Document:
         documents._add(self)
 
     @property
-    def name(self):
+    def name(self) -> str:
         return self._session.name
 
     @property
-    def file(self):
+    def file(self) -> str:
         """The file that save() writes; empty for a document without one."""
         return self._session.file
 
     @property
-    def path(self):
+    def path(self) -> str:
         return self._session.path
 
     @property
@@ -152,77 +163,79 @@ class Document:
         """The repositories, in the order of texts."""
         return tuple(getattr(self, name) for name in self._collections)
 
-    def save(self):
+    def save(self) -> None:
         """Writes the file, whole or not at all."""
         self._session.save()
 
-    def save_as(self, path):
+    def save_as(self, path: str | os.PathLike[str]) -> None:
         """Writes another file, which becomes that of the document and names it."""
         self._session.save_as(os.fspath(path))
 
     # ---- time ----
-    def edit(self, why=""):
+    def edit(self, why: str = "") -> _Edit:
         """with doc.edit('why'): groups changes into one step, and takes them back if it raises."""
         return _Edit(self._session, why)
 
-    def undo(self):
+    def undo(self) -> bool:
         """Takes the last step back; False where there is none."""
         return self._session.undo()
 
-    def redo(self):
+    def redo(self) -> bool:
         """Does again what undo() took back; False where there is nothing."""
         return self._session.redo()
 
     @property
-    def undo_count(self):
+    def undo_count(self) -> int:
         return self._session.counts()[0]
 
     @property
-    def redo_count(self):
+    def redo_count(self) -> int:
         return self._session.counts()[1]
 
-    def snapshot(self):
+    def snapshot(self) -> _nga.Snapshot:
         """The content as it is now, for diff(). It shares with the document and costs nothing."""
         return self._session.snapshot()
 
-    def diff(self, before, *, relative=0.0, absolute=0.0):
+    def diff(self, before: "_nga.Snapshot | DocumentBase", *, relative: float = 0.0,
+             absolute: float = 0.0) -> list[Difference]:
         """Where the document differs from a snapshot or another document, as a list of Difference.
         Numbers count as equal within the larger of absolute and relative times the larger one."""
-        if isinstance(before, Document):
+        if isinstance(before, DocumentBase):
             before = before.snapshot()
         found = _nga.diff(before, self.snapshot(), self.path, relative, absolute, MISSING)
         return [Difference(*one) for one in found]
 
     @property
-    def journal(self):
+    def journal(self) -> "Journal":
         """What was done: the change records, and the script that does it again."""
         return Journal(self)
 
     # ---- rules ----
-    def findings(self, deep=False):
+    def findings(self, deep: bool = False) -> list[Finding]:
         """Every object that breaks a rule, with the first rule that it breaks. With deep also, as
         notes, what would fail if its owner asked it."""
         return [Finding(*one) for one in self._session.findings(deep)]
 
-    def validate(self):
+    def validate(self) -> None:
         """Raises ValidationError for the first object that breaks a rule."""
         for collection in self.collections:
             for item in collection.values():
                 item.validate()
 
     # ---- texts ----
-    def to_json(self):
+    def to_json(self) -> str:
         """The document as JSON text."""
         return self._session.export_json()
 
-    def import_json(self, text, on_conflict="error"):
+    def import_json(self, text: str,
+                    on_conflict: str = "error") -> list[tuple[str, int, int, int]]:
         """Puts the objects of a text into the document, as one step: all, or none. For a name that
         is taken on_conflict decides: 'error', 'replace' or 'keep'."""
         if on_conflict not in ("error", "replace", "keep"):
             raise ValueError("on_conflict is 'error', 'replace' or 'keep'")
         return self._session.import_json(text, on_conflict)
 
-    def to_dict(self):
+    def to_dict(self) -> dict[str, Any]:
         """The document as dictionaries and lists, as its JSON text has them."""
         return json.loads(self.to_json())
 
@@ -246,7 +259,7 @@ class Document:
         return from_dict(self.name + "-copy", self.to_dict())
 
 
-class Journal(collections.abc.Sequence):
+class Journal(collections.abc.Sequence[tuple[Any, ...]]):
     """The change records of a document as they were sent, oldest first, as tuples. Its script does
     once more what was done and not undone."""
 
@@ -254,20 +267,20 @@ class Journal(collections.abc.Sequence):
         self._document = document
 
     @property
-    def records(self):
+    def records(self) -> list[tuple[Any, ...]]:
         return self._document._session.records(0)
 
     @property
-    def script(self):
+    def script(self) -> str:
         """A Python program that opens the document and makes the same changes."""
         return self._document._session.script()
 
     @property
-    def body(self):
+    def body(self) -> str:
         """The script without the lines that open the document, over the variable doc."""
         return self._document._session.script_body()
 
-    def replay(self, document):
+    def replay(self, document: "DocumentBase") -> None:
         """Makes the same changes to another document, as one step."""
         import nga
         with document.edit("replay"):
@@ -286,7 +299,7 @@ class Journal(collections.abc.Sequence):
         return f"<journal of {self._document.path}: {len(self)} change records>"
 
 
-class Repository(collections.abc.MutableMapping):
+class Repository(collections.abc.MutableMapping[str, _Held]):
     """The objects of one collection by name, in natural order: steel-9 before steel-10."""
 
     __slots__ = ("_document", "_index", "_name")
@@ -297,14 +310,14 @@ class Repository(collections.abc.MutableMapping):
         self._name = name
 
     @property
-    def name(self):
+    def name(self) -> str:
         return self._name
 
     @property
-    def path(self):
+    def path(self) -> str:
         return f"{self._document.path}.{self._name}"
 
-    def __getitem__(self, name):
+    def __getitem__(self, name: str) -> _Held:
         return self._document._session.entry(self._document, self._index, name)
 
     def __setitem__(self, name, value):
@@ -322,7 +335,7 @@ class Repository(collections.abc.MutableMapping):
     def __iter__(self):
         return iter(self._document._session.keys(self._index))
 
-    def rename(self, old, new):
+    def rename(self, old: str, new: str) -> None:
         """Gives an object another name. Handles go by path: those of the old name end."""
         self._document._session.rename_entry(self._index, old, new)
 
@@ -369,25 +382,25 @@ ReferenceError when the path leads nowhere any more."""
     def __init__(self, **fields):
         pass
 
-    def setValues(self, *, validate=True, **fields):
+    def setValues(self, *, validate: bool = True, **fields: Any) -> None:
         """Sets several fields, or none if one is refused. The object is checked before anything is
         written, unless validate is false."""
         _nga.set_values(self, fields, validate)
 
-    def validate(self):
+    def validate(self) -> None:
         """Raises ValidationError with the first rule that the object breaks."""
         _nga.validate(self)
 
-    def findings(self, deep=False):
+    def findings(self, deep: bool = False) -> list[Finding]:
         """The objects, from this one down, that break a rule."""
         return [Finding(*one) for one in _nga.findings(self, deep)]
 
     @property
-    def options(self):
+    def options(self) -> "Options":
         """The optional objects that are set, by name."""
         return Options(self)
 
-    def sort(self, n, field=None):
+    def sort(self, n: int, field: str | None = None) -> None:
         """Orders the rows of the table by its last n columns, the last one first. The table's field
         is named where the object has several."""
         if field is None:
@@ -398,12 +411,12 @@ ReferenceError when the path leads nowhere any more."""
             field = tables[0]
         _nga.sort(self, field, n)
 
-    def to_dict(self):
+    def to_dict(self) -> dict[str, Any]:
         """The fields that are not at their defaults, as the JSON text has them."""
         return json.loads(_nga.to_json(self))
 
     @classmethod
-    def from_dict(cls, content):
+    def from_dict(cls, content: Mapping[str, Any]) -> Any:
         """An object of no document from what to_dict() gave; nothing is checked."""
         return _nga.from_json(cls._type_id, json.dumps(content))
 
@@ -447,7 +460,7 @@ def _restore(type_id, text):
 copyreg.constructor(_restore)
 
 
-class Options(collections.abc.Mapping):
+class Options(collections.abc.Mapping[str, Any]):
     """The optional objects of one object that are set, by name."""
 
     __slots__ = ("_owner",)
@@ -479,7 +492,7 @@ class Options(collections.abc.Mapping):
         return f"<options {list(self)}>"
 
 
-class ObjectList(collections.abc.MutableSequence):
+class ObjectList(collections.abc.MutableSequence[Any]):
     """A list of objects in an object. Elements are reached by their places: what stands at [0] after
     an insertion is what was inserted."""
 
@@ -545,7 +558,7 @@ class ObjectList(collections.abc.MutableSequence):
         return f"[{', '.join(map(repr, self))}]"
 
 
-class FloatMap(collections.abc.MutableMapping):
+class FloatMap(collections.abc.MutableMapping[str, float]):
     """A map from names to single-precision numbers in an object."""
 
     __slots__ = ("_owner", "_field")
@@ -583,13 +596,13 @@ class FloatMap(collections.abc.MutableMapping):
 
 # ---- values --------------------------------------------------------------------------------------
 
-def empty_table(columns):
+def empty_table(columns: int) -> Any:
     """A table without rows that has columns nevertheless."""
     import numpy
     return numpy.empty((0, columns))
 
 
-def real(text):
+def real(text: str) -> float:
     """A number from its text in a model: "NaN:" and the bits stand for a NaN other than the usual
     one."""
     import struct
