@@ -39,6 +39,17 @@ shown import every_option.json --into every_option.nga
 shown check every_option.nga
 "$nga" export every_option.nga | cmp - every_option.json
 
+step "Amplitudes, sections of beams and filters"
+cp "$examples/loads_and_sections.json" .
+shown import loads_and_sections.json --into loads_and_sections.nga
+shown check loads_and_sections.nga
+
+step "A load over time, and a section with its properties, as pictures"
+shown show loads_and_sections.nga "amplitudes['smooth step']" --plot
+shown show loads_and_sections.nga "profiles['IPE 300 (EN 10365)']" --plot
+shown show loads_and_sections.nga "profiles['IPE 300 (EN 10365)']" --output ipe300.svg
+ls -l ipe300.svg | awk '{print $5 " bytes in " $9}'
+
 step "What is wrong is named, with its place: a load case with a scale factor of zero"
 cp "$examples/zero_factor.json" .
 shown import zero_factor.json --into zero_factor.nga

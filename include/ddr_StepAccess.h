@@ -67,6 +67,22 @@ struct ddr_ElementOfHandles {
     static M& Get(L& list, int index) { return list.Get(index).Get(); }
 };
 
+/// An element of a list L of objects by value. An index outside ends the process; the elements of a
+/// list that is absent are absent.
+template <class L, class M>
+struct ddr_ElementByValue {
+    static M const& ConstGet(L const& list, int index) {
+        L const* const present = &list;
+        M const* const none = nullptr;
+        return present ? list.ConstGet(index) : *none;
+    }
+    static M& Get(L& list, int index) {
+        L* const present = &list;
+        M* const none = nullptr;
+        return present ? list.Get(index) : *none;
+    }
+};
+
 /// The test of a step whose member exists in some classes of a family only: raises the text unless
 /// \p typeId is one of \p owners.
 void ddr_RequireOwner(unsigned typeId, std::initializer_list<unsigned> owners, char const* text,

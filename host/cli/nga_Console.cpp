@@ -44,6 +44,8 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 
 Console::Console() : m_colourOut(Coloured(1)), m_colourErr(Coloured(2)) {}
 
+bool Console::OutIsTerminal() const { return isatty(1) != 0; }
+
 void Console::Result(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }
 
 void Console::Say(std::string const& text) {

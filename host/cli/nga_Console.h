@@ -13,6 +13,9 @@ public:
 
     bool quiet = false;
 
+    /// Whether somebody looks at the results.
+    bool OutIsTerminal() const;
+
     /// A result, as it is.
     void Result(std::string_view text);
     /// What helps a person but is no result; left out when quiet.

@@ -15,11 +15,13 @@
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
 #include "nga_Path.h"
+#include "nga_Plot.h"
 #include "nga_Reference.h"
 #include "nga_Schema.h"
 #include "nga_Script.h"
 #include "nga_Start.h"
 #include "nga_Stubs.h"
+#include "nga_Svg.h"
 #include "nga_Tree.h"
 
 namespace nga {
@@ -46,6 +48,7 @@ struct Arguments {
     bool json = false;
     bool paths = false;
     bool deep = false;
+    bool plot = false;
 };
 
 bool EndsWith(std::string const& text, std::string_view ending) {
@@ -149,7 +152,7 @@ public:
         verb->add_option("PATH", a.path, "As tree and check print it; the document's step may miss")
             ->required()
             ->type_name("");
-        Json(verb);
+        Pictures(verb);
 
         verb = Verb("check", "List every object that breaks a rule; exit code 1 if there is one",
                     "nga check bracket.nga --json", &Tool::Check);
@@ -247,6 +250,16 @@ private:
             ->type_name("");
     }
     void Json(CLI::App* verb) { verb->add_flag("--json", m_arguments.json, "Report as JSON"); }
+    void Pictures(CLI::App* verb) {
+        CLI::Option* const json = verb->add_flag("--json", m_arguments.json, "Report as JSON");
+        verb->add_flag("--plot", m_arguments.plot,
+                       "Draw an amplitude's curve or a profile's section below, as on a terminal")
+            ->excludes(json);
+        verb->add_option("-o,--output", m_arguments.output,
+                         "Write that picture as SVG, and nothing else; - for the standard output")
+            ->type_name("FILE.svg")
+            ->excludes(json);
+    }
     void Conflicts(CLI::App* verb) {
         verb->add_option("--on-conflict", m_arguments.onConflict,
                          "For a name that the document has already: error refuses the whole "
@@ -302,8 +315,8 @@ private:
         Document document = OpenAny(file);
         for (std::string const& path : UnusableNames(document))
             m_console.Say("warning: " + Printable(file) + ": " + path +
-                          ": the name has a quote, a backslash or a control character, or is "
-                          "empty; no import could bring it back");
+                          ": the name has a quote, a backslash or a control character, is "
+                          "empty, or is kept for the solver; no import could bring it back");
         return document;
     }
 
@@ -398,9 +411,34 @@ private:
     int Show() {
         Document const document = Opened(m_arguments.file);
         Selection const selection = Resolve(document, m_arguments.path);
+        if (!m_arguments.output.empty()) return WriteSvg(selection);
         m_console.Result(m_arguments.json ? ShowJson(document, selection)
                                           : ShowText(document, selection));
+        if (!m_arguments.json && (m_arguments.plot || m_console.OutIsTerminal())) Plot(selection);
         return exitFine;
+    }
+    int WriteSvg(Selection const& selection) {
+        std::string const& file = m_arguments.output;
+        if (file != "-" && !EndsWith(file, ".svg"))
+            throw Error("a picture cannot stand there", file, 0, "a name that ends in .svg");
+        Picture const picture = PictureOf(selection);
+        if (!picture.none.empty())
+            throw Error("there is no picture: " + picture.none, selection.path);
+        std::string const text = SvgText(picture);
+        if (file == "-")
+            m_console.Result(text);
+        else
+            WriteText(file, text);
+        return exitFine;
+    }
+    void Plot(Selection const& selection) {
+        // A terminal shows everything, and most of that has no picture by its nature.
+        if (!m_arguments.plot && !MayHavePicture(selection)) return;
+        Picture const picture = PictureOf(selection);
+        if (picture.none.empty())
+            m_console.Result("\n" + PlotText(picture));
+        else
+            m_console.Say("no picture: " + picture.none);
     }
 
     int Check() {

@@ -57,11 +57,12 @@ public:
 
 protected:
     void Failed(int code) override {
-        if (m_failed) return;
-        m_failed = true;
         mdl_Module const& module = *m_description.Module();
-        m_findings.push_back(
-            {Path(), module.prefix, code, std::string(module.errorText(code).View()), m_note});
+        Add(module.prefix, code, module.errorText(code));
+    }
+    void FailedContent(int code, cow_String const& content) override {
+        mdl_Module const& module = *m_description.Module();
+        Add(std::string(module.prefix) + " content", code, module.contentText(code, content));
     }
 
     void Object(void const* member, int index, void const* object, mdl_Asked how) override {
@@ -83,11 +84,11 @@ protected:
     }
 
 private:
-    void Add(nex_Exception const& failure) {
+    void Add(nex_Exception const& failure) { Add(std::string(), -1, failure.UserReport()); }
+    void Add(std::string const& module, int code, atr_String const& message) {
         if (m_failed) return;
         m_failed = true;
-        m_findings.push_back(
-            {Path(), std::string(), -1, std::string(failure.UserReport().View()), m_note});
+        m_findings.push_back({Path(), module, code, std::string(message.View()), m_note});
     }
     /// Asks the objects in all fields that the rules passed over.
     void RunUnasked() {
@@ -172,7 +173,8 @@ std::vector<std::string> UnusableNames(Document const& document) {
     for (Collection const* collection : Collection::All())
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             std::string const path = EntryPath(root, *collection, key.View());
-            if (!IsUsableName(key.View())) paths.push_back(path);
+            if (!IsUsableName(key.View()) || collection->CodeOfName(key.View()) >= 0)
+                paths.push_back(path);
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
             if (description) AddUnusable(paths, budget, *description, object, path);
@@ -188,6 +190,14 @@ std::vector<Finding> Check(mdl_Description const& description, void const* objec
     return findings;
 }
 
+std::string BrokenRule(mdl_Description const& description, void const* object) {
+    std::vector<Finding> const findings = Check(description, object, std::string());
+    if (findings.empty()) return std::string();
+    std::string message = findings.front().message;
+    for (std::size_t at = 0; (at = message.find('\n', at)) != std::string::npos;) message[at] = ' ';
+    return message.empty() ? "one without a message" : message;
+}
+
 std::vector<Finding> Check(Document const& document, CheckDepth depth) {
     std::vector<Finding> findings;
     std::string const root = DocumentPath(document);
@@ -196,14 +206,14 @@ std::vector<Finding> Check(Document const& document, CheckDepth depth) {
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
-            if (!description) return;
             std::string const path = EntryPath(root, *collection, key.View());
+            // Beside what the object itself breaks: the name is no part of it.
             if (int const code = collection->CodeOfName(key.View()); code >= 0) {
                 mdl_Module const& module = *collection->Held().Module();
                 findings.push_back(
                     {path, module.prefix, code, std::string(module.errorText(code).View()), false});
             }
-            Recorder(findings, budget, depth, *description, object, path).Run();
+            if (description) Recorder(findings, budget, depth, *description, object, path).Run();
         });
     return findings;
 }

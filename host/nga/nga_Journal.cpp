@@ -1,6 +1,7 @@
 #include "nga_Journal.h"
 
 #include "nga_JsonWriter.h"
+#include "nga_Names.h"
 #include "omu_ChangeHistory.h"
 #include "omu_PrimEnumBase.h"
 #include "omu_PrimValues.h"
@@ -41,7 +42,7 @@ Journal::~Journal() {
 std::string Journal::Text() const {
     std::string text;
     for (omu_PrimTuple const& record : m_records)
-        text += std::string(record.AsRepr().View()) + "\n";
+        text += Printable(record.AsRepr().View()) + "\n";
     return text;
 }
 

@@ -162,7 +162,7 @@ std::string ExportJson(Document const& document) {
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
             mdl_Description const* description =
                 object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
-            if (!IsUsableName(key.View()))
+            if (!IsUsableName(key.View()) || collection->CodeOfName(key.View()) >= 0)
                 writer.SetUnreadable("the name " + Quoted(key.View()) + " cannot be used");
             writer.Key(key.View());
             if (description) {

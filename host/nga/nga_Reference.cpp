@@ -120,8 +120,8 @@ std::string Section(mdl_Description const& description) {
     if (!rules.empty()) {
         text += "\nRules:\n\n";
         for (ListedRule const& rule : rules)
-            text += "- `" + std::string(description.Module()->prefix) + " " +
-                    std::to_string(rule.code) + "`: " + rule.message + "\n";
+            text +=
+                "- `" + rule.module + " " + std::to_string(rule.code) + "`: " + rule.message + "\n";
     }
     return text + "\n";
 }

@@ -11,28 +11,39 @@ namespace {
 /// Lets every rule hold on and notes which there are. Its rules are those of one object alone.
 class Lister final : public mdl_RuleVisitor {
 public:
-    explicit Lister(std::vector<int>& codes) : m_codes(codes) {}
+    Lister(mdl_Module const& module, std::vector<ListedRule>& rules)
+        : m_module(module), m_rules(rules) {}
 
 protected:
     void Failed(int) override {}
     void Seen(int code) override {
-        for (std::size_t i = 0; i < m_codes.size(); ++i) {
-            if (m_codes[i] != code) continue;
+        Add({m_module.prefix, code, std::string(m_module.errorText(code).View())});
+    }
+    void SeenContent(int code, char const* content) override {
+        Add({std::string(m_module.prefix) + " content", code,
+             std::string(m_module.contentText(code, cow_String(content)).View())});
+    }
+    void FailedContent(int, cow_String const&) override {}
+    void Object(void const*, int, void const*, mdl_Asked) override {}
+
+private:
+    void Add(ListedRule const& rule) {
+        for (std::size_t i = 0; i < m_rules.size(); ++i) {
+            if (m_rules[i].message != rule.message || m_rules[i].code != rule.code) continue;
             m_next = i + 1;
             return;
         }
         // Behind the one that came before it, so that branches join in the order of the source.
-        m_codes.insert(m_codes.begin() + static_cast<std::ptrdiff_t>(m_next++), code);
+        m_rules.insert(m_rules.begin() + static_cast<std::ptrdiff_t>(m_next++), rule);
     }
-    void Object(void const*, int, void const*, mdl_Asked) override {}
 
-private:
-    std::vector<int>& m_codes;
+    mdl_Module const& m_module;
+    std::vector<ListedRule>& m_rules;
     std::size_t m_next = 0;
 };
 
-void Run(mdl_Description const& description, void const* object, std::vector<int>& codes) {
-    Lister lister(codes);
+void Run(mdl_Description const& description, void const* object, std::vector<ListedRule>& rules) {
+    Lister lister(*description.Module(), rules);
     try {
         description.RunRules(object, lister);
     } catch (nex_Exception const&) {
@@ -56,34 +67,35 @@ void FillTables(mdl_Description const& description, void* object) {
 }
 
 template <class Change>
-void RunChanged(mdl_Description const& description, void const* base, std::vector<int>& codes,
-                Change const& change) {
+void RunChanged(mdl_Description const& description, void const* base,
+                std::vector<ListedRule>& rules, Change const& change) {
     DescribedObject const object(description.Copy(base), DescribedDeleter{&description});
     change(object.get());
-    Run(description, object.get(), codes);
+    Run(description, object.get(), rules);
 }
 
-void RunVariants(mdl_Description const& description, void const* base, std::vector<int>& codes) {
-    Run(description, base, codes);
+void RunVariants(mdl_Description const& description, void const* base,
+                 std::vector<ListedRule>& rules) {
+    Run(description, base, rules);
     for (mdl_Field const* field : description.AllFields()) {
         mdl_FieldType const& type = field->Type();
         if (type.Kind() == mdl_FieldKind::Enum)
             for (omu_EnumRow const* row = type.Rows(); row->literal; ++row)
-                RunChanged(description, base, codes,
+                RunChanged(description, base, rules,
                            [&](void* object) { type.SetNumber(field->At(object), row->value); });
         if (type.Kind() == mdl_FieldKind::Bool)
-            RunChanged(description, base, codes, [&](void* object) {
+            RunChanged(description, base, rules, [&](void* object) {
                 bool& flag = *static_cast<bool*>(field->At(object));
                 flag = !flag;
             });
         if (type.Kind() == mdl_FieldKind::Double)
             for (double number : {-1.0, 0.0, 0.5, 1e9})
-                RunChanged(description, base, codes, [&](void* object) {
+                RunChanged(description, base, rules, [&](void* object) {
                     *static_cast<double*>(field->At(object)) = number;
                 });
         if (type.Kind() == mdl_FieldKind::Int)
             for (int number : {-1, 0, 1, 1000})
-                RunChanged(description, base, codes,
+                RunChanged(description, base, rules,
                            [&](void* object) { *static_cast<int*>(field->At(object)) = number; });
     }
 }
@@ -93,13 +105,10 @@ void RunVariants(mdl_Description const& description, void const* base, std::vect
 std::vector<ListedRule> RulesOf(mdl_Description const& description) {
     std::vector<ListedRule> rules;
     if (description.IsAbstract() || !description.HasRules()) return rules;
-    std::vector<int> codes;
     DescribedObject const object(description.Create(), DescribedDeleter{&description});
-    RunVariants(description, object.get(), codes);
+    RunVariants(description, object.get(), rules);
     FillTables(description, object.get());
-    RunVariants(description, object.get(), codes);
-    for (int code : codes)
-        rules.push_back({code, std::string(description.Module()->errorText(code).View())});
+    RunVariants(description, object.get(), rules);
     return rules;
 }
 

@@ -9,6 +9,7 @@ namespace nga {
 
 /// One rule of a class, as its failure tells it.
 struct ListedRule {
+    std::string module;  ///< as a Finding has it
     int code;
     std::string message;
 };

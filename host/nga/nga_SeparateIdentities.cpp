@@ -227,8 +227,13 @@ private:
     void Object(Plan& plan, void const* object) {
         // The identity of the most derived level stands for the whole object: what was met at this
         // address was walked then. The cast only asks where the identity is.
-        for (mdl_Description const* level : plan.levels)
-            if (m_visitor.Meet(level->Uid(const_cast<void*>(object)))) return;
+        cls_Uid const& own = plan.levels.front()->Uid(const_cast<void*>(object));
+        if (m_visitor.Meet(own)) return;
+        for (std::size_t i = 1; i < plan.levels.size(); ++i) {
+            // A base that was read bears its object's identity, in a table of its own.
+            cls_Uid const& base = plan.levels[i]->Uid(const_cast<void*>(object));
+            if (base != own && m_visitor.Meet(base)) return;
+        }
         for (Plan::Part& part : plan.parts) {
             void const* const at = part.field->At(object);
             mdl_FieldType const& type = part.field->Type();

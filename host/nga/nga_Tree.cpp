@@ -8,6 +8,7 @@
 #include "nga_FieldLiterals.h"
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
+#include "nga_Picture.h"
 #include "nga_TextForm.h"
 
 namespace nga {
@@ -292,7 +293,8 @@ std::string ShowText(Document const& document, Selection const& selection) {
             return text;
         }
         case Selection::What::Object:
-            if (!IsTable(*selection.description)) return ObjectText(selection);
+            if (!IsTable(*selection.description))
+                return ObjectText(selection) + SectionText(selection);
             break;
         case Selection::What::Value:
             if (selection.field->Type().Kind() == mdl_FieldKind::Option) return "not set\n";
@@ -316,6 +318,7 @@ std::string ShowJson(Document const& document, Selection const& selection) {
     }
     writer.Key("value");
     WriteSelected(writer, document, selection);
+    WriteSection(writer, selection);
     writer.EndObject();
     return writer.Take();
 }

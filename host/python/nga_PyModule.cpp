@@ -11,12 +11,14 @@
 #include "nga_JsonTree.h"
 #include "nga_Names.h"
 #include "nga_Path.h"
+#include "nga_Picture.h"
 #include "nga_PyField.h"
 #include "nga_Rules.h"
 #include "nga_Schema.h"
 #include "nga_Script.h"
 #include "nga_Start.h"
 #include "nga_StoreError.h"
+#include "nga_Svg.h"
 #include "nga_Tree.h"
 #include "omu_PrimValues.h"
 
@@ -131,7 +133,7 @@ py::list Collections() {
 py::list Rules(unsigned typeId) {
     py::list rules;
     for (ListedRule const& rule : RulesOf(DescriptionAt(typeId)))
-        rules.append(py::make_tuple(rule.code, Text(rule.message)));
+        rules.append(py::make_tuple(rule.module, rule.code, Text(rule.message)));
     return rules;
 }
 
@@ -598,6 +600,21 @@ void DefineObjects(py::module_& module) {
     module.def("same", Same);
     module.def("field_text", FieldJson);
     module.def("changed", Changed);
+    module.def("svg", [](py::handle handle) -> py::object {
+        Object* const object = Handle(handle);
+        Selection selection;
+        selection.what = Selection::What::Object;
+        selection.object = Resolve(object);
+        selection.description = object->state.description;
+        selection.path = PathOf(object);
+        if (object->state.session || !object->state.field) {
+            selection.collection = object->state.collection;
+            selection.key = std::string(object->state.key.View());
+        }
+        if (!MayHavePicture(selection)) return py::none();
+        Picture const picture = PictureOf(selection);
+        return picture.none.empty() ? Text(SvgText(picture)) : py::none();
+    });
     module.def("copy", [](py::handle handle) {
         Object* const object = Handle(handle);
         return Give(CopyOf(*object->state.description, Resolve(object)));

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cls_TypeAdapter.h"
+#include "cow_Virtual.h"
 #include "mdl_FieldTypeOf.h"
 #include "mem_AllocationOperators.h"
 #include "omn_FixedString.h"
@@ -79,11 +80,14 @@ public:                                                            \
     static constexpr omn_FixedString constructorCmd() { return omn_FixedString(script); } \
     static constexpr omn_FixedString setValuesCmd() { return omn_FixedString("setValues"); }
 
-#define DD_CONCRETE(Class)                                                       \
+#define DD_CONCRETE(Class)                          \
+    explicit Class(cls_ReadVisitor const& visitor); \
+    DD_WRITTEN(Class)
+
+#define DD_WRITTEN(Class)                                                        \
     Class();                                                                     \
     Class(Class const&);                                                         \
     Class& operator=(Class const&);                                              \
-    explicit Class(cls_ReadVisitor const& visitor);                              \
     /* The rules, in order; AssertValid() and the host's check both run this. */ \
     void Rules(mdl_RuleVisitor& visitor) const;                                  \
     enum { ddFirst = __COUNTER__ };
@@ -118,6 +122,13 @@ public:                                                            \
     DD_SCRIPT(script)                             \
     using ddRoot = Class;                         \
     DD_CONCRETE(Class)
+
+/// The same for a class whose records are for others to read: there is no read constructor.
+#define DD_ROOT_WRITTEN(Class, id, schemaVersion, script) \
+    DD_COMMON(Class, id, schemaVersion)                   \
+    DD_SCRIPT(script)                                     \
+    using ddRoot = Class;                                 \
+    DD_WRITTEN(Class)
 
 /// The same for a class that scripts do not make.
 #define DD_ROOT_UNSCRIPTED(Class, id, schemaVersion) \
@@ -165,14 +176,24 @@ public:                                                            \
     DD_CHECK_OPTION(Held, name)          \
     DD_ROW(name##Handle, name, #name)
 
+/// The same, copied by its own Copy().
+#define DD_VIRTUAL_OPTION(Held, name)                           \
+    DD_CHECK_HELD(Held, name)                                   \
+    using name##Handle = cow_ArrayCOW<Held, cow_Virtual<Held>>; \
+    DD_COMMAND(name, #name)                                     \
+    DD_ROW(name##Handle, name, #name)
+
 #define DD_CHECK_FIELD(Type, name)                                                    \
     static_assert(mdl_CanBeField<Type>, "field " #name ": no field can hold a " #Type \
                                         "; mdl_FieldTypeOf.h has the types that one can");
 
-#define DD_CHECK_OPTION(Held, name)                                                      \
-    static_assert(mdl_CanBeOption<Held>,                                                 \
-                  "option " #name ": " #Held " is not a class described with DD_CLASS"); \
+#define DD_CHECK_OPTION(Held, name) \
+    DD_CHECK_HELD(Held, name)       \
     using name##Handle = cow_ArrayCOW<Held, cow_Direct<Held>>;
+
+#define DD_CHECK_HELD(Held, name)        \
+    static_assert(mdl_CanBeOption<Held>, \
+                  "option " #name ": " #Held " is not a class described with DD_CLASS");
 
 #define DD_COMMAND(name, script) \
     static constexpr omn_FixedString name##Cmd() { return omn_FixedString(script); }
@@ -191,34 +212,37 @@ public:                                                            \
 
 // ---- in the class's source -------------------------------------------------------------------
 
-#define DD_DEFINE_COMMON(Class, parentId, constructorName, baseDescription, module)               \
-    Class::Class() = default;                                                                     \
-    Class::Class(Class const&) = default;                                                         \
-    Class& Class::operator=(Class const&) = default;                                              \
-    mdl_Description const& Class::Description() {                                                 \
-        static constexpr auto rows = mdl_RowsOf<Class>();                                         \
-        static mdl_Description const description(                                                 \
-            {#Class, Class::TypeId(), Class::ddVersion, parentId, constructorName,                \
-             offsetof(Class, uid), baseDescription, &module,                                      \
-             [](void const* object, mdl_RuleVisitor& visitor) {                                   \
-                 static_cast<Class const*>(object)->Rules(visitor);                               \
-             },                                                                                   \
-             []() -> void* { return new Class; },                                                 \
-             [](void const* object) -> void* {                                                    \
-                 return new Class(*static_cast<Class const*>(object));                            \
-             },                                                                                   \
-             [](void* object) { cow_Destroy(static_cast<Class*>(object)); }},                     \
-            rows.data(), static_cast<int>(rows.size()));                                          \
-        return description;                                                                       \
-    }                                                                                             \
-    void Class::InitializeMetadata(cls_ClassRegistrar& registrar) {                               \
-        mdl_RegisterDescribed(registrar, new cls_TypeAdapter<Class>(#Class, ddVersion, parentId), \
-                              mdl_ReleaseHandle<Class>, Description());                           \
-    }                                                                                             \
-    void Class::AssertValid() const {                                                             \
-        mdl_AssertingVisitor visitor(module);                                                     \
-        Rules(visitor);                                                                           \
-    }                                                                                             \
+#define DD_DEFINE_COMMON(Class, parentId, constructorName, baseDescription, module) \
+    DD_DEFINE_WITH(cls_TypeAdapter, Class, parentId, constructorName, baseDescription, module)
+
+#define DD_DEFINE_WITH(adapter, Class, parentId, constructorName, baseDescription, module) \
+    Class::Class() = default;                                                              \
+    Class::Class(Class const&) = default;                                                  \
+    Class& Class::operator=(Class const&) = default;                                       \
+    mdl_Description const& Class::Description() {                                          \
+        static constexpr auto rows = mdl_RowsOf<Class>();                                  \
+        static mdl_Description const description(                                          \
+            {#Class, Class::TypeId(), Class::ddVersion, parentId, constructorName,         \
+             offsetof(Class, uid), baseDescription, &module,                               \
+             [](void const* object, mdl_RuleVisitor& visitor) {                            \
+                 static_cast<Class const*>(object)->Rules(visitor);                        \
+             },                                                                            \
+             []() -> void* { return new Class; },                                          \
+             [](void const* object) -> void* {                                             \
+                 return new Class(*static_cast<Class const*>(object));                     \
+             },                                                                            \
+             [](void* object) { cow_Destroy(static_cast<Class*>(object)); }},              \
+            rows.data(), static_cast<int>(rows.size()));                                   \
+        return description;                                                                \
+    }                                                                                      \
+    void Class::InitializeMetadata(cls_ClassRegistrar& registrar) {                        \
+        mdl_RegisterDescribed(registrar, new adapter<Class>(#Class, ddVersion, parentId),  \
+                              mdl_ReleaseHandle<Class>, Description());                    \
+    }                                                                                      \
+    void Class::AssertValid() const {                                                      \
+        mdl_AssertingVisitor visitor(module);                                              \
+        Rules(visitor);                                                                    \
+    }                                                                                      \
     unsigned Class::DynTypeId() const { return TypeId(); }
 
 #define DD_DEFINE_FRAME(Class, constructorName, module)                     \
@@ -248,10 +272,20 @@ public:                                                            \
         Description().ReadFields(this, visitor);                              \
         uid = visitor.GetUid();                                               \
     }                                                                         \
-    void Class::DBWrite(cls_WriteVisitor const& visitor) const {              \
-        if (visitor.StartWrite(TypeId(), uid) == 0) return;                   \
-        Description().WriteFields(this, visitor);                             \
+    DD_DEFINE_ROOT_WRITE(Class)
+
+#define DD_DEFINE_ROOT_WRITE(Class)                              \
+    void Class::DBWrite(cls_WriteVisitor const& visitor) const { \
+        if (visitor.StartWrite(TypeId(), uid) == 0) return;      \
+        Description().WriteFields(this, visitor);                \
     }
+
+/// The bodies of a class declared with DD_ROOT_WRITTEN.
+#define DD_DEFINE_ROOT_WRITTEN(Class, module)                                                 \
+    DD_DEFINE_WITH(cls_AbsTypeAdapter, Class, cls_RootTypeId, Class::constructorCmd().Text(), \
+                   nullptr, module)                                                           \
+    DD_DEFINE_ROOT_WRITE(Class)                                                               \
+    Class* Class::Copy() const { return new Class(*this); }
 
 /// The bodies of a class declared with DD_ROOT; Copy() too where the class has one.
 #define DD_DEFINE_ROOT(Class, module)                                   \

@@ -2,6 +2,7 @@
 
 #include "atr_String.h"
 #include "cow_ArrayCOW.h"
+#include "cow_String.h"
 
 class mdl_Description;
 
@@ -10,6 +11,9 @@ struct mdl_Module {
     char const* prefix;                 ///< "kma"
     atr_String (*errorText)(int code);  ///< empty for a code outside the table
     void (*fail)(int code);             ///< raises with the code's text
+    /// The same for the codes whose texts name something; null in a module that has none.
+    atr_String (*contentText)(int code, cow_String const& content) = nullptr;
+    void (*failContent)(int code, cow_String const& content) = nullptr;
 };
 
 /// How to go on with an object that a rule function asks, its class being known only there.
@@ -27,6 +31,14 @@ public:
     bool Rule(bool holds, int code) {
         Seen(code);
         if (!holds) Failed(code);
+        return holds;
+    }
+
+    /// The same for a rule whose text names something: the code is one of the module's content
+    /// codes.
+    bool ContentRule(bool holds, int code, char const* content) {
+        SeenContent(code, content);
+        if (!holds) FailedContent(code, cow_String(content));
         return holds;
     }
 
@@ -51,6 +63,9 @@ protected:
     virtual void Failed(int code) = 0;
     /// Every rule that is come to, whether it holds or not: for those who list a class's rules.
     virtual void Seen(int /*code*/) {}
+    virtual void SeenContent(int /*code*/, char const* /*content*/) {}
+    /// A visitor that keeps the two tables of codes apart overrides this.
+    virtual void FailedContent(int code, cow_String const& /*content*/) { Failed(code); }
     /// \p member is the address of the member that holds \p object, \p index its place in a list.
     virtual void Object(void const* member, int index, void const* object, mdl_Asked how) = 0;
 
@@ -77,6 +92,9 @@ public:
 
 protected:
     void Failed(int code) override { m_module.fail(code); }
+    void FailedContent(int code, cow_String const& content) override {
+        m_module.failContent(code, content);
+    }
     void Object(void const*, int, void const* object, mdl_Asked how) override {
         how.assertValid(object);
     }

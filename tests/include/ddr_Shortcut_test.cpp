@@ -1,7 +1,7 @@
 #include "ddr_Shortcut.h"
 
-#include "RecordingAgent.h"
 #include "ShortcutFixture.h"
+#include "support/RecordingWriteAgent.h"
 
 namespace ddr_Shortcut_test {
 
@@ -82,41 +82,47 @@ TEST_F(Shortcut, FollowingItLeavesTheChainShared) {
 }
 
 TEST_F(Shortcut, WritesTheChainFromTheLastStepToTheRoot) {
-    std::vector<std::string> const expected = {
-        "start 0x2380067",
-        "impl(-1) behind a handle",
-        "  start 0x2380068",
-        "  name(-1) \"steel\"",
-        "  parent(-1) by value",
-        "    start 0x238006a",
-        "    impl(-1) behind a handle",
-        "      start 0x238007c",
-        "      parent(-1) by value",
-        "        start 0x140002",
-        "        impl(-1) behind a handle",
-        "          start 0x140004",
-        "          name(-1) \"bridge\"",
-    };
-    EXPECT_EQ(WrittenLines(ToMaterial("steel")), expected);
+    EXPECT_EQ(nga_test::WriteLog().Write(ToMaterial("steel")),
+              "start 0x2380067\n"
+              "field -1:impl with handle {\n"
+              "  start 0x2380068\n"
+              "  text -1:name=steel\n"
+              "  field -1:parent {\n"
+              "    start 0x238006A\n"
+              "    field -1:impl with handle {\n"
+              "      start 0x238007C\n"
+              "      field -1:parent {\n"
+              "        start 0x140002\n"
+              "        field -1:impl with handle {\n"
+              "          start 0x140004\n"
+              "          text -1:name=bridge\n"
+              "        }\n"
+              "      }\n"
+              "    }\n"
+              "  }\n"
+              "}\n");
 }
 
 TEST_F(Shortcut, OneThatIsNotSetWritesANull) {
-    std::vector<std::string> const expected = {"start 0x2380067", "impl(-1) null"};
-    EXPECT_EQ(WrittenLines(kmaC_MaterialShortcut()), expected);
+    EXPECT_EQ(nga_test::WriteLog().Write(kmaC_MaterialShortcut()),
+              "start 0x2380067\nnull -1:impl\n");
 }
 
 TEST_F(Shortcut, AnIdentityThatIsWrittenAlreadyLeavesTheFieldsOut) {
     kmaC_MaterialShortcut const shortcut = ToMaterial("steel");
-    RecordingAgent::Log handleKnown;
-    handleKnown.known = {shortcut.Uid()};
-    EXPECT_EQ(WrittenLines(shortcut, handleKnown), std::vector<std::string>{"start 0x2380067"});
-    RecordingAgent::Log stepKnown;
-    stepKnown.known = {static_cast<kmaC_MaterialInMaterialContainerShortcut const&>(
-                           shortcut.StepHandle().ConstGet())
-                           .Uid()};
-    std::vector<std::string> const expected = {"start 0x2380067", "impl(-1) behind a handle",
-                                               "  start 0x2380068"};
-    EXPECT_EQ(WrittenLines(shortcut, stepKnown), expected);
+    nga_test::WriteLog log;
+    log.Write(shortcut);
+    EXPECT_EQ(log.Write(shortcut), "start 0x2380067 again\n");
+
+    using Step = kmaC_MaterialInMaterialContainerShortcut;
+    nga_test::WriteLog stepKnown;
+    stepKnown.written = {
+        {Step::TypeId(), static_cast<Step const&>(shortcut.StepHandle().ConstGet()).Uid()}};
+    EXPECT_EQ(stepKnown.Write(shortcut),
+              "start 0x2380067\n"
+              "field -1:impl with handle {\n"
+              "  start 0x2380068 again\n"
+              "}\n");
 }
 
 }  // namespace ddr_Shortcut_test

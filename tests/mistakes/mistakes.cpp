@@ -18,6 +18,8 @@ public:
     DD_FIELD(Untabled, kind)
 #elif defined MISTAKE_UNDESCRIBED_OPTION
     DD_OPTION(cow_String, text)
+#elif defined MISTAKE_UNDESCRIBED_VIRTUAL_OPTION
+    DD_VIRTUAL_OPTION(cow_String, text)
 #elif defined MISTAKE_LIST_OF_UNDESCRIBED
     DD_FIELD(cls_xo1DArrayList<cow_String>, texts)
 #elif defined MISTAKE_WRONG_LITERAL

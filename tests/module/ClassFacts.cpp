@@ -77,6 +77,7 @@ void ExpectAttributes(std::vector<ExpectedClass> const& classes) {
         for (std::size_t i = 0; i < attributes.size(); ++i) {
             SCOPED_TRACE(expected.name + "::" + expected.fields[i].name);
             EXPECT_STREQ(attributes[i].field.Name().Text(), expected.fields[i].name.c_str());
+            EXPECT_EQ(attributes[i].field.Index(), static_cast<int>(i));
             EXPECT_EQ(attributes[i].type, expected.fields[i].type);
             EXPECT_EQ(attributes[i].arg, expected.fields[i].arg);
             EXPECT_EQ(attributes[i].collection, expected.fields[i].collection);

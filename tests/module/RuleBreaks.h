@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "DDB_NonGeometricAttributes.h"
+#include "support/Tables.h"
 
 // The rules of a class by example: an object that passes, and ways to break one rule each, in the
 // order of the rules. Alone each raises its code; of any two the first in order wins.
@@ -15,7 +16,6 @@
 namespace nga_test {
 
 inline constexpr int passes = -1;
-inline constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 /// The code whose text AssertValid() raises, or passes.
 template <class T>
@@ -53,16 +53,6 @@ void ExpectRules(T const& valid, std::vector<RuleBreak<T>> const& breaks) {
             EXPECT_EQ(CodeRaisedBy(both), breaks[i].code) << "break " << i << " before " << j;
         }
     }
-}
-
-/// An array of the rows.
-inline cow_2DArray<double> Rows(std::vector<std::vector<double>> const& rows) {
-    int const columns = rows.empty() ? 0 : static_cast<int>(rows.front().size());
-    cow_2DArray<double> array(static_cast<int>(rows.size()), columns);
-    for (int r = 0; r < array.Rows(); ++r)
-        for (int c = 0; c < columns; ++c)
-            array.Get().Cell(r, c) = rows[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)];
-    return array;
 }
 
 inline cow_List<double> ListOf(std::vector<double> const& values) {

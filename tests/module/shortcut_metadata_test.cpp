@@ -40,6 +40,29 @@ Row const rows[] = {
     {kmaC_UniaxialTestsListInMaterialOptionShortcut::InitializeMetadata, 0x238008B, "kmaC_UniaxialTestsListInMaterialOptionShortcut", 0x2380089, "p", 0x238006C, mediumTable, true},
     {kmaC_BiaxialTestsListInMaterialOptionShortcut::InitializeMetadata,  0x238008C, "kmaC_BiaxialTestsListInMaterialOptionShortcut", 0x2380089, "p", 0x238006C, mediumTable, true},
     {kmaC_PlanarTestsListInMaterialOptionShortcut::InitializeMetadata,   0x238008D, "kmaC_PlanarTestsListInMaterialOptionShortcut", 0x2380089, "p", 0x238006C, mediumTable, true},
+    {kamC_AmplitudeShortcut::InitializeMetadata, 0x244000D, "kamC_AmplitudeShortcut", 1, "s", 0x244000F, smallTable, true},
+    {kamC_AmplitudeInAmplitudeContainerShortcut::InitializeMetadata, 0x244000E, "kamC_AmplitudeInAmplitudeContainerShortcut", 0x244000F, "np", 0x2440010, smallTable, true},
+    {kamC_AmplitudeIMPLSC::InitializeMetadata, 0x244000F, "kamC_AmplitudeIMPLSC", 1, "", none, smallTable, false},
+    {kamC_AmplitudeContainerShortcut::InitializeMetadata, 0x2440010, "kamC_AmplitudeContainerShortcut", 1, "s", 0x2440011, smallTable, true},
+    {kamC_AmplitudeContainerIMPLSC::InitializeMetadata, 0x2440011, "kamC_AmplitudeContainerIMPLSC", 1, "", none, smallTable, false},
+    {kamC_BaselineCorrectionShortcut::InitializeMetadata, 0x2440012, "kamC_BaselineCorrectionShortcut", 1, "s", 0x2440015, smallTable, true},
+    {kamC_BaselineCorrectionInEquallySpacedShortcut::InitializeMetadata, 0x2440013, "kamC_BaselineCorrectionInEquallySpacedShortcut", 0x2440015, "p", 0x244000D, mediumTable, true},
+    {kamC_BaselineCorrectionInTabularShortcut::InitializeMetadata, 0x2440014, "kamC_BaselineCorrectionInTabularShortcut", 0x2440015, "p", 0x244000D, mediumTable, true},
+    {kamC_BaselineCorrectionIMPLSC::InitializeMetadata, 0x2440015, "kamC_BaselineCorrectionIMPLSC", 1, "", none, smallTable, false},
+    {kamC_AmplitudeContainerInModelShortcut::InitializeMetadata, 0x2440016, "kamC_AmplitudeContainerInModelShortcut", 0x2440011, "p", 0x140002, mediumTable, true},
+    {kamC_BaselineCorrectionInAmplitudeShortcut::InitializeMetadata, 0x2440018, "kamC_BaselineCorrectionInAmplitudeShortcut", 0x2440015, "p", 0x244000D, mediumTable, true},
+    {kbpC_BeamProfileContainerShortcut::InitializeMetadata, 0x264000E, "kbpC_BeamProfileContainerShortcut", 1, "s", 0x264000F, smallTable, true},
+    {kbpC_BeamProfileContainerIMPLSC::InitializeMetadata, 0x264000F, "kbpC_BeamProfileContainerIMPLSC", 1, "", none, smallTable, false},
+    {kbpC_BeamProfileShortcut::InitializeMetadata, 0x2640010, "kbpC_BeamProfileShortcut", 1, "s", 0x2640012, smallTable, true},
+    {kbpC_BeamProfileInBeamProfileContainerShortcut::InitializeMetadata, 0x2640011, "kbpC_BeamProfileInBeamProfileContainerShortcut", 0x2640012, "np", 0x264000E, smallTable, true},
+    {kbpC_BeamProfileIMPSC::InitializeMetadata, 0x2640012, "kbpC_BeamProfileIMPSC", 1, "", none, smallTable, false},
+    {kbpC_BeamProfileContainerInModelShortcut::InitializeMetadata, 0x2640013, "kbpC_BeamProfileContainerInModelShortcut", 0x264000F, "p", 0x140002, mediumTable, true},
+    {kflC_FilterShortcut::InitializeMetadata, 0x3510007, "kflC_FilterShortcut", 1, "s", 0x3510009, smallTable, true},
+    {kflC_FilterInFilterContainerShortcut::InitializeMetadata, 0x3510008, "kflC_FilterInFilterContainerShortcut", 0x3510009, "np", 0x351000A, smallTable, true},
+    {kflC_FilterIMPLSC::InitializeMetadata, 0x3510009, "kflC_FilterIMPLSC", 1, "", none, smallTable, false},
+    {kflC_FilterContainerShortcut::InitializeMetadata, 0x351000A, "kflC_FilterContainerShortcut", 1, "s", 0x351000B, smallTable, true},
+    {kflC_FilterContainerIMPLSC::InitializeMetadata, 0x351000B, "kflC_FilterContainerIMPLSC", 1, "", none, smallTable, false},
+    {kflC_FilterContainerInModelShortcut::InitializeMetadata, 0x351000C, "kflC_FilterContainerInModelShortcut", 0x351000B, "p", 0x140002, mediumTable, true},
     {klcC_LoadCaseIMPLSC::InitializeMetadata,                            0x2DC0003, "klcC_LoadCaseIMPLSC", 1, "", none, smallTable, false},
     {klcC_LoadCaseShortcut::InitializeMetadata,                          0x2DC0004, "klcC_LoadCaseShortcut", 1, "s", 0x2DC0003, smallTable, true},
     {klcC_LoadCaseInLoadCaseContShortcut::InitializeMetadata,            0x2DC0005, "klcC_LoadCaseInLoadCaseContShortcut", 0x2DC0003, "np", 0x2DC0007, smallTable, true},
@@ -158,6 +181,35 @@ TEST_F(ShortcutMetadata, EveryClassIsRebuiltFromWhatItWrites) {
             new kmaC_MaterialOptionListInMullinsEffectShortcut(list, 123456));
         EXPECT_TRUE(Rebuilt(element) == element);
     }
+
+    kamC_AmplitudeContainerShortcut const amplitudes(
+        new kamC_AmplitudeContainerInModelShortcut(ddr_ShortcutToModel("bridge")));
+    EXPECT_TRUE(Rebuilt(amplitudes) == amplitudes);
+    kamC_AmplitudeShortcut const amplitude(
+        new kamC_AmplitudeInAmplitudeContainerShortcut(amplitudes, "gust"));
+    EXPECT_TRUE(Rebuilt(amplitude) == amplitude);
+    for (kamC_BaselineCorrectionShortcut const& correction :
+         {kamC_BaselineCorrectionShortcut(
+              new kamC_BaselineCorrectionInEquallySpacedShortcut(amplitude)),
+          kamC_BaselineCorrectionShortcut(new kamC_BaselineCorrectionInTabularShortcut(amplitude)),
+          kamC_BaselineCorrectionShortcut(
+              new kamC_BaselineCorrectionInAmplitudeShortcut(amplitude))}) {
+        kamC_BaselineCorrectionShortcut const again = Rebuilt(correction);
+        EXPECT_TRUE(again == correction);
+        EXPECT_EQ(again.StepHandle().ConstGet().DynTypeId(),
+                  correction.StepHandle().ConstGet().DynTypeId());
+    }
+    kbpC_BeamProfileContainerShortcut const profiles(
+        new kbpC_BeamProfileContainerInModelShortcut(ddr_ShortcutToModel("bridge")));
+    kbpC_BeamProfileShortcut const profile(
+        new kbpC_BeamProfileInBeamProfileContainerShortcut(profiles, "chord"));
+    EXPECT_TRUE(Rebuilt(profiles) == profiles);
+    EXPECT_TRUE(Rebuilt(profile) == profile);
+    kflC_FilterContainerShortcut const filters(
+        new kflC_FilterContainerInModelShortcut(ddr_ShortcutToModel("bridge")));
+    kflC_FilterShortcut const filter(new kflC_FilterInFilterContainerShortcut(filters, "low"));
+    EXPECT_TRUE(Rebuilt(filters) == filters);
+    EXPECT_TRUE(Rebuilt(filter) == filter);
 
     klcC_LoadCaseShortcut const loadCase(
         new klcC_LoadCaseInLoadCaseContShortcut(klcC_LoadCaseContShortcut(), "dead load"));

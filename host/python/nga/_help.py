@@ -39,5 +39,5 @@ def class_help(cls):
     rules = _nga.rules(facts["type_id"])
     if rules:
         lines += ["", "Rules that it may break:"]
-        lines += [f"    {facts['module']} {code}: {message}" for code, message in rules]
+        lines += [f"    {module} {code}: {message}" for module, code, message in rules]
     return "\n".join(lines)

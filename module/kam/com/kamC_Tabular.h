@@ -5,7 +5,8 @@
 #include "kamC_Amplitude.h"
 #include "kamC_BaselineCorrection.h"
 
-/// An amplitude given by points, with straight lines between them and its last value after them.
+/// An amplitude given by points, with straight lines between them, its first value before them and
+/// its last value after them.
 class kamC_Tabular : public kamC_Amplitude {
     DD_CLASS_OWN_ASSERT(kamC_Tabular, kamC_Amplitude, 0x2440008, 424, "TabularAmplitude")
 public:

@@ -2,6 +2,7 @@
 
 #include "atr_String.h"
 #include "cow_String.h"
+#include "mdl_RuleVisitor.h"
 
 /// Codes are written as their numbers, by which rules and table are held against each other.
 enum kbeC_ErrorEnm : int {};
@@ -32,3 +33,6 @@ atr_String kbeC_ContentErrorText(kbeC_ContentErrorEnm code, cow_String const& na
 inline void kbeC_AssertContent(bool condition, kbeC_ContentErrorEnm code, cow_String const& name) {
     if (!condition) kbeC_FailContent(code, name);
 }
+
+/// What the rules of this module's classes raise through.
+extern mdl_Module const kbeC_Module;

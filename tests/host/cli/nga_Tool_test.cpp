@@ -10,6 +10,7 @@ namespace {
 
 std::string const bracket = NGA_EXAMPLES "/bracket.json";
 std::string const everyOption = NGA_EXAMPLES "/every_option.json";
+std::string const loadsAndSections = NGA_EXAMPLES "/loads_and_sections.json";
 std::string const zeroFactor = NGA_EXAMPLES "/zero_factor.json";
 
 std::vector<std::string> const verbs = {"new",   "import", "export",  "tree",       "show",
@@ -157,7 +158,7 @@ TEST(Tool, TheExampleIsValidAndHasEightMaterialsAndThreeLoadCases) {
 }
 
 TEST(Tool, TheExamplesAreWrittenAsExportWritesThem) {
-    for (std::string const& example : {bracket, everyOption}) {
+    for (std::string const& example : {bracket, everyOption, loadsAndSections}) {
         ToolRun const run = RunNga({"export", example});
         EXPECT_EQ(run.code, 0);
         EXPECT_EQ(run.out, FileContent(example));

@@ -165,6 +165,27 @@ TEST(Check, AnOwnerAndItsSuboptionThatBothFailAreBothListed) {
     EXPECT_TRUE(HasPath(findings, "it.options['failStrain'].table"));
 }
 
+TEST(Check, AMessageThatNamesSomethingIsOfAnotherTableOfCodes) {
+    int count = 0;
+    DDB_NonGeometricAttributes_initialize(count);
+    {
+        kbeC_ConnectorElasticity elasticity;
+        elasticity.components.Append(1);
+        elasticity.table = mdl_PropertyTable(cow_2DArray<double>(0, 1));
+        elasticity.options = new kbeC_ConnectorOptions;
+        elasticity.options.Get().defaultRateFactor = false;
+        std::vector<Finding> const findings =
+            nga::Check(kbeC_ConnectorElasticity::Description(), &elasticity, "hinge");
+        ASSERT_EQ(findings.size(), 1u);
+        EXPECT_EQ(findings[0].path, "hinge");
+        EXPECT_EQ(findings[0].module, "kbe content");
+        EXPECT_EQ(findings[0].code, 1);
+        EXPECT_EQ(findings[0].message,
+                  "Table rate options cannot be specified for this behavior (Elasticity).");
+    }
+    DDB_NonGeometricAttributes_finalize(count);
+}
+
 TEST(Check, ElementsOfListsHaveTheirIndexInThePath) {
     nga::Start();
     Option mullins("kmaC_MullinsEffect");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 #include "kflC_ButterworthFilter.h"
@@ -45,6 +46,17 @@ TEST(Json, AnEmptyDocumentHasOnlyItsHead) {
     EXPECT_EQ(ExportJson(Document::New("empty")), "{\n  \"nga\": 1,\n  \"schema\": 1111\n}\n");
 }
 
+TEST(Journal, PrintsWhatIsNoUtf8AsEscapes) {
+    Document document = Document::New("document");
+    nga::Journal const journal;
+    document.Materials().Insert("st\xe9rile", kmaC_Material());
+    document.Materials().Insert("gr\xc3\xbcn", kmaC_Material());
+    std::string const text = journal.Text();
+    EXPECT_NE(text.find("st\\xe9rile"), std::string::npos) << text;
+    EXPECT_NE(text.find("gr\xc3\xbcn"), std::string::npos) << text;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 2);
+}
+
 TEST(Json, ImportPutsTheObjectsIn) {
     Document document = Document::New("document");
     std::vector<nga::Imported> const report = ImportJson(document, text);
@@ -59,31 +71,6 @@ TEST(Json, ImportPutsTheObjectsIn) {
     ASSERT_NE(steel, nullptr);
     EXPECT_EQ(steel->elastic.ConstGet().table.Cell(0, 0), 2.1e11);
     EXPECT_EQ(*document.LoadCases().ConstGet("wind").loads.ConstFind("pressure"), 1.5f);
-}
-
-TEST(Json, ANameThatTheSolverKeepsForItselfIsRefusedAndFound) {
-    std::string const reserved = "A system-defined filter is already named \"Antialiasing.\"";
-    Document document = Document::New("document");
-    EXPECT_EQ(
-        FailureOf(document, "{\"filters\": {\"Antialiasing\": {\"class\": \"ButterworthFilter\"}}}")
-            .Message(),
-        reserved);
-    ImportJson(document,
-               "{\"filters\": {\"antialiasing\": {\"class\": \"ButterworthFilter\","
-               "\"cutoffFrequency\": 1}}, \"materials\": {\"Antialiasing\": {}}}");
-    EXPECT_TRUE(nga::Check(document).empty());
-
-    // A file may bring one all the same.
-    kflC_ButterworthFilter filter;
-    filter.cutoffFrequency = 1.0;
-    auto& wrapper = document.Model().GetExtension(cow_String(ddr_Model::filterCmd()));
-    static_cast<kflC_FilterContainer&>(wrapper.GetValue()).Insert("Antialiasing", filter);
-    std::vector<nga::Finding> const findings = nga::Check(document);
-    ASSERT_EQ(findings.size(), 1u);
-    EXPECT_EQ(findings[0].path, "documents['document'].filters['Antialiasing']");
-    EXPECT_EQ(findings[0].module, "kfl");
-    EXPECT_EQ(findings[0].code, 6);
-    EXPECT_EQ(findings[0].message, reserved);
 }
 
 TEST(Json, ExportThenImportThenExportGivesTheSameText) {
@@ -246,6 +233,43 @@ nga::Error ExportFailureOf(Document const& document) {
 }
 
 }  // namespace
+
+TEST(Json, ANameThatTheSolverKeepsForItselfIsRefusedAndFound) {
+    std::string const reserved = "A system-defined filter is already named \"Antialiasing.\"";
+    Document document = Document::New("document");
+    EXPECT_EQ(
+        FailureOf(document, "{\"filters\": {\"Antialiasing\": {\"class\": \"ButterworthFilter\"}}}")
+            .Message(),
+        reserved);
+    ImportJson(document,
+               "{\"filters\": {\"antialiasing\": {\"class\": \"ButterworthFilter\","
+               "\"cutoffFrequency\": 1}}, \"materials\": {\"Antialiasing\": {}}}");
+    EXPECT_TRUE(nga::Check(document).empty());
+
+    // A file may bring one all the same.
+    kflC_ButterworthFilter filter;
+    filter.cutoffFrequency = 1.0;
+    auto& wrapper = document.Model().GetExtension(cow_String(ddr_Model::filterCmd()));
+    static_cast<kflC_FilterContainer&>(wrapper.GetValue()).Insert("Antialiasing", filter);
+    std::vector<nga::Finding> const findings = nga::Check(document);
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].path, "documents['document'].filters['Antialiasing']");
+    EXPECT_EQ(nga::UnusableNames(document), std::vector<std::string>{findings[0].path});
+    EXPECT_EQ(ExportFailureOf(document).Place(), findings[0].path);
+    EXPECT_EQ(ExportFailureOf(document).Message(),
+              "the name 'Antialiasing' cannot be used, so that no import could read the text");
+    EXPECT_EQ(findings[0].module, "kfl");
+    EXPECT_EQ(findings[0].code, 6);
+    EXPECT_EQ(findings[0].message, reserved);
+
+    // What the object itself breaks is told as well.
+    filter.cutoffFrequency = 0.0;
+    static_cast<kflC_FilterContainer&>(wrapper.GetValue()).Insert("Antialiasing", filter);
+    std::vector<nga::Finding> const both = nga::Check(document);
+    ASSERT_EQ(both.size(), 2u);
+    EXPECT_EQ(both[0].code, 6);
+    EXPECT_EQ(both[1].code, 0);
+}
 
 TEST(Json, WhatCouldNotBeImportedAgainIsNotExported) {
     std::string const tail = ", so that no import could read the text";

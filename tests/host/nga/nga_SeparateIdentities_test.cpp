@@ -202,6 +202,49 @@ TEST(SeparateIdentities, ASecondPassFindsNothing) {
     EXPECT_EQ(nga::SeparateIdentities(document.Model()), 0);
 }
 
+kamC_AmplitudeContainer& AmplitudesOf(Document& document) {
+    return static_cast<kamC_AmplitudeContainer&>(
+        document.Model().GetExtension(cow_String(ddr_Model::amplitudeCmd())).GetValue());
+}
+
+TEST(SeparateIdentities, AnObjectThatWasReadKeepsTheOneIdentityOfItsLevels) {
+    TemporaryFolder const folder;
+    {
+        Document document = Document::New("bridge");
+        kamC_Decay decay;
+        decay.initial = 1.0;
+        AmplitudesOf(document).Insert("a", decay);
+        document.SaveAs(folder.Path("bridge.nga"));
+    }
+    Document document = Document::Open(folder.Path("bridge.nga"));
+    EXPECT_EQ(nga::SeparateIdentities(document.Model()), 0);
+    kamC_AmplitudeContainer& amplitudes = AmplitudesOf(document);
+    cls_Uid const uid = static_cast<kamC_Decay const&>(amplitudes.ConstGet("a")).uid;
+    EXPECT_EQ(amplitudes.ConstGet("a").uid, uid);
+
+    // A copy that is changed is another object at both levels, in whichever order they stand.
+    for (char const* name : {"0", "b"}) {
+        amplitudes.Insert(name, amplitudes.ConstGet("a"));
+        static_cast<kamC_Decay&>(amplitudes.Get(name)).initial = name[0];
+    }
+    nga::SeparateIdentities(document.Model());
+    std::set<cls_Uid> concrete, base;
+    for (char const* name : {"0", "a", "b"}) {
+        concrete.insert(static_cast<kamC_Decay const&>(amplitudes.ConstGet(name)).uid);
+        base.insert(amplitudes.ConstGet(name).uid);
+    }
+    EXPECT_EQ(concrete.size(), 3u);
+    EXPECT_EQ(base.size(), 3u);
+    document.Save();
+    Document again = Document::Open(folder.Path("bridge.nga"));
+    auto const initial = [&](char const* name) {
+        return static_cast<kamC_Decay const&>(AmplitudesOf(again).ConstGet(name)).initial;
+    };
+    EXPECT_EQ(initial("0"), '0');
+    EXPECT_EQ(initial("a"), 1.0);
+    EXPECT_EQ(initial("b"), 'b');
+}
+
 TEST(SeparateIdentities, LoadCasesThatShareMapsAreSeparatedWithTheirMaps) {
     Document document = Document::New("document");
     auto* wind = new klcC_LoadCase;

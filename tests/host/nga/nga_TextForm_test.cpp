@@ -235,6 +235,10 @@ TEST_F(TextForm, ALiteralMayStandForTheNumberOfItsField) {
                   "unknown literal 'FITTED_VALUES' (did you mean 'FITTED_VALUE'?)");
     }
     EXPECT_THROW(Read<kmaC_Hyperelastic>("{\"poissonRatio\": \"FITTED_VALUE\"}"), nga::Error);
+    EXPECT_EQ(Read<kamC_Tabular>("{\"smooth\": \"SOLVER_DEFAULT\"}")->smooth, DBL_MAX);
+    EXPECT_EQ(Read<kamC_EquallySpaced>("{\"smooth\": \"SOLVER_DEFAULT\"}")->smooth, DBL_MAX);
+    EXPECT_EQ(Read<kamC_Tabular>("{\"smooth\": 0.25}")->smooth, 0.25);
+    EXPECT_THROW(Read<kamC_EquallySpaced>("{\"begin\": \"SOLVER_DEFAULT\"}"), nga::Error);
 }
 
 TEST_F(TextForm, AMinusBeforeZeroIsKept) {

@@ -131,6 +131,9 @@ TEST_F(AmplitudeShortcut, AnAbsentCorrectionIsAReferenceToNull) {
     EXPECT_EQ(address, nullptr);
     EXPECT_EQ(ToCorrection<Variant2>("bare").ConstGetPtr(session), nullptr);
     EXPECT_EQ(ToCorrection<Variant2>("bare").GetPtr(session), nullptr);
+    Amplitudes().Insert("bare spaced", kamC_EquallySpaced());
+    EXPECT_EQ(ToCorrection<Variant1>("bare spaced").ConstGetPtr(session), nullptr);
+    EXPECT_EQ(ToCorrection<Variant1>("bare spaced").GetPtr(session), nullptr);
 }
 
 }  // namespace kamC_Shortcut_test

@@ -2,12 +2,12 @@
 
 namespace kamC_rules_test {
 
+using nga_test::aNaN;
+using nga_test::ArrayOf;
 using nga_test::CodeRaisedBy;
 using nga_test::ExpectRules;
 using nga_test::ListOf;
-using nga_test::nan;
 using nga_test::passes;
-using nga_test::Rows;
 
 kamC_BaselineCorrection Correction(std::vector<double> const& intervals) {
     kamC_BaselineCorrection correction;
@@ -16,12 +16,12 @@ kamC_BaselineCorrection Correction(std::vector<double> const& intervals) {
 }
 kamC_Tabular Tabular(std::vector<std::vector<double>> const& rows) {
     kamC_Tabular tabular;
-    tabular.data = Rows(rows);
+    tabular.data = ArrayOf(rows);
     return tabular;
 }
 kamC_SmoothStep SmoothStep(std::vector<std::vector<double>> const& rows) {
     kamC_SmoothStep step;
-    step.data = Rows(rows);
+    step.data = ArrayOf(rows);
     return step;
 }
 
@@ -53,14 +53,14 @@ TEST(AmplitudeRules, OfSmoothStepInTheirOrder) {
     ExpectRules<kamC_SmoothStep>(SmoothStep({{0, 1}, {1, 2}}),
                                  {{11,
                                    [](kamC_SmoothStep& a) {
-                                       a.data = Rows({{2, 0, 0}});
+                                       a.data = ArrayOf({{2, 0, 0}});
                                    }},
                                   {12,
                                    [](kamC_SmoothStep& a) {
-                                       a.data = Rows({{2, 0}});
+                                       a.data = ArrayOf({{2, 0}});
                                    }},
                                   {0, [](kamC_SmoothStep& a) {
-                                       a.data = Rows({{2, 0}, {1, 0}});
+                                       a.data = ArrayOf({{2, 0}, {1, 0}});
                                    }}});
 }
 
@@ -75,20 +75,20 @@ TEST(AmplitudeRules, OfEquallySpacedInTheirOrder) {
                 {19, [](kamC_EquallySpaced& a) {
                      a.baselineCorrection = new kamC_BaselineCorrection(Correction({1, 1}));
                  }}});
-    valid.begin = nan;
+    valid.begin = aNaN;
     EXPECT_EQ(CodeRaisedBy(valid), passes);
 }
 
 TEST(AmplitudeRules, OfPeriodicInTheirOrder) {
     kamC_Periodic valid;
-    valid.data = Rows({{1, 2}});
+    valid.data = ArrayOf({{1, 2}});
     ExpectRules<kamC_Periodic>(valid,
                                {{22, [](kamC_Periodic& a) { a.data = cow_2DArray<double>(0, 5); }},
                                 {11, [](kamC_Periodic& a) {
-                                     a.data = Rows({{1, 2, 3}});
+                                     a.data = ArrayOf({{1, 2, 3}});
                                  }}});
-    valid.data = Rows({{1}});
-    valid.frequency = nan;
+    valid.data = ArrayOf({{1}});
+    valid.frequency = aNaN;
     EXPECT_EQ(CodeRaisedBy(valid), passes);
     EXPECT_EQ(CodeRaisedBy(kamC_Periodic()), 22);
 }
@@ -98,13 +98,13 @@ TEST(AmplitudeRules, OfPowerSpectralDensitiesInTheirOrder) {
                                     {{13, [](kamC_PsdDefinition& a) { a.g = -1.0; }},
                                      {14, [](kamC_PsdDefinition& a) { a.dbReference = -1.0; }},
                                      {15, [](kamC_PsdDefinition& a) {
-                                          a.table = Rows({{1, 2}});
+                                          a.table = ArrayOf({{1, 2}});
                                       }}});
     kamC_PsdDefinition psd;
-    psd.g = nan;
+    psd.g = aNaN;
     EXPECT_EQ(CodeRaisedBy(psd), 13);
     psd.g = 0.0;
-    psd.dbReference = nan;
+    psd.dbReference = aNaN;
     EXPECT_EQ(CodeRaisedBy(psd), 14);
     psd.dbReference = 0.0;
     for (int columns = 0; columns < 6; ++columns) {
@@ -116,9 +116,9 @@ TEST(AmplitudeRules, OfPowerSpectralDensitiesInTheirOrder) {
 TEST(AmplitudeRules, OfSpectraInTheirOrder) {
     EXPECT_EQ(CodeRaisedBy(kamC_Spectrum()), 15);
     kamC_Spectrum valid;
-    valid.table = Rows({{1, 2, 3}});
-    ExpectRules<kamC_Spectrum>(valid, {{13, [](kamC_Spectrum& a) { a.g = nan; }},
-                                       {15, [](kamC_Spectrum& a) { a.table = Rows({}); }}});
+    valid.table = ArrayOf({{1, 2, 3}});
+    ExpectRules<kamC_Spectrum>(valid, {{13, [](kamC_Spectrum& a) { a.g = aNaN; }},
+                                       {15, [](kamC_Spectrum& a) { a.table = ArrayOf({}); }}});
     for (int columns = 0; columns < 6; ++columns) {
         valid.table = cow_2DArray<double>(2, columns);
         EXPECT_EQ(CodeRaisedBy(valid), columns == 3 ? passes : 15) << columns;
@@ -141,7 +141,7 @@ TEST(AmplitudeRules, SmoothingIsTheLargestDoubleOrFromZeroToAHalf) {
                                              {std::nextafter(0.5, 1.0), 2},
                                              {std::nextafter(largest, 0.0), 2},
                                              {std::numeric_limits<double>::infinity(), 2},
-                                             {nan, 2}}) {
+                                             {aNaN, 2}}) {
         tabular.smooth = smooth;
         spaced.smooth = smooth;
         EXPECT_EQ(CodeRaisedBy(tabular), code) << smooth;
@@ -158,10 +158,11 @@ TEST(AmplitudeRules, TimesMayStandStillAndMayNotFall) {
 }
 
 TEST(AmplitudeRules, ATimeThatIsNoNumberPasses) {
-    EXPECT_EQ(CodeRaisedBy(Tabular({{0, 1}, {nan, 2}, {1, 2}})), passes);
-    EXPECT_EQ(CodeRaisedBy(Tabular({{nan, 1}, {-1, 2}})), passes);
+    EXPECT_EQ(CodeRaisedBy(Tabular({{0, 1}, {aNaN, 2}, {1, 2}})), passes);
+    EXPECT_EQ(CodeRaisedBy(Tabular({{aNaN, 1}, {-1, 2}})), passes);
+    EXPECT_EQ(CodeRaisedBy(SmoothStep({{0, 1}, {aNaN, 2}, {1, 2}})), passes);
     // It hides a fall from those on its two sides, too.
-    EXPECT_EQ(CodeRaisedBy(Tabular({{1, 1}, {nan, 2}, {0, 2}})), passes);
+    EXPECT_EQ(CodeRaisedBy(Tabular({{1, 1}, {aNaN, 2}, {0, 2}})), passes);
 }
 
 TEST(AmplitudeRules, TablesOfTooFewAndTooManyColumnsAndRows) {
@@ -182,7 +183,7 @@ TEST(AmplitudeRules, TablesOfTooFewAndTooManyColumnsAndRows) {
 TEST(AmplitudeRules, ADefaultEquallySpacedFailsAtItsInterval) {
     kamC_EquallySpaced spaced;
     EXPECT_EQ(CodeRaisedBy(spaced), 9);
-    spaced.fixedInterval = nan;
+    spaced.fixedInterval = aNaN;
     EXPECT_EQ(CodeRaisedBy(spaced), 9);
     spaced.fixedInterval = std::numeric_limits<double>::denorm_min();
     EXPECT_EQ(CodeRaisedBy(spaced), 12);
@@ -198,9 +199,9 @@ TEST(AmplitudeRules, BaselineCorrectionsRiseStrictlyFromZero) {
                                                           {{-1, 2}, 19},
                                                           {{1, 2, 1.5}, 19},
                                                           {{1, 2, 3, 3}, 19},
-                                                          {{nan}, passes},
-                                                          {{0, nan}, 19},
-                                                          {{nan, 1}, 19}}) {
+                                                          {{aNaN}, passes},
+                                                          {{0, aNaN}, 19},
+                                                          {{aNaN, 1}, 19}}) {
         EXPECT_EQ(CodeRaisedBy(Correction(intervals)), code) << testing::PrintToString(intervals);
         kamC_Tabular tabular = Tabular({{0, 1}, {1, 2}});
         tabular.baselineCorrection = new kamC_BaselineCorrection(Correction(intervals));
@@ -221,14 +222,14 @@ TEST(AmplitudeRules, SolutionDependentLimitsMayTouch) {
     EXPECT_EQ(verdict(0.05, 0.1, 1000.0), 20);
     EXPECT_EQ(verdict(1.0, 1.0, 1.0), passes);
     EXPECT_EQ(verdict(-2.0, -3.0, -1.0), passes);
-    EXPECT_EQ(verdict(nan, 0.1, 1000.0), 20);
-    EXPECT_EQ(verdict(1.0, nan, 1000.0), 20);
-    EXPECT_EQ(verdict(1.0, 0.1, nan), 20);
+    EXPECT_EQ(verdict(aNaN, 0.1, 1000.0), 20);
+    EXPECT_EQ(verdict(1.0, aNaN, 1000.0), 20);
+    EXPECT_EQ(verdict(1.0, 0.1, aNaN), 20);
 }
 
 TEST(AmplitudeRules, TheOthersAcceptEverything) {
     kamC_Decay decay;
-    decay.initial = decay.maximum = decay.start = decay.decayTime = nan;
+    decay.initial = decay.maximum = decay.start = decay.decayTime = aNaN;
     EXPECT_EQ(CodeRaisedBy(decay), passes);
     kamC_Modulated modulated;
     modulated.frequency1 = modulated.frequency2 = modulated.start = -1.0;
@@ -265,6 +266,16 @@ TEST(AmplitudeRules, OfDensitiesAndSpectraAreVirtual) {
     psd.g = -1.0;
     kamC_PsdDefinition const& psdBase = psd;
     EXPECT_NO_THROW(psdBase.AssertValid());
+}
+
+struct OwnTabular : kamC_Tabular {
+    void AssertValid() const {}
+};
+
+TEST(AmplitudeRules, OfTheOthersAreNotVirtual) {
+    OwnTabular const tabular;
+    kamC_Tabular const& base = tabular;
+    EXPECT_THROW(base.AssertValid(), nex_TextException);
 }
 
 }  // namespace kamC_rules_test

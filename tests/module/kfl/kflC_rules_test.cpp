@@ -2,9 +2,9 @@
 
 namespace kflC_rules_test {
 
+using nga_test::aNaN;
 using nga_test::CodeRaisedBy;
 using nga_test::ExpectRules;
-using nga_test::nan;
 using nga_test::passes;
 
 template <class T>
@@ -26,7 +26,7 @@ TEST(FilterRules, InTheirOrder) {
          {1, [](kflC_Chebyshev1Filter& f) { f.order = 0; }}});
     ExpectRules<kflC_Chebyshev2Filter>(
         Valid<kflC_Chebyshev2Filter>(),
-        {{0, [](kflC_Chebyshev2Filter& f) { f.cutoffFrequency = nan; }},
+        {{0, [](kflC_Chebyshev2Filter& f) { f.cutoffFrequency = aNaN; }},
          {3, [](kflC_Chebyshev2Filter& f) { f.rippleFactor = 5.0; }},
          {1, [](kflC_Chebyshev2Filter& f) { f.order = -1; }}});
 }
@@ -69,14 +69,16 @@ int VerdictOfRipple(double ripple) {
 
 TEST(FilterRules, TheRippleHasAnUpperBoundInTheSecondKindOnly) {
     EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev1Filter>(5.0), passes);
+    EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev1Filter>(std::numeric_limits<double>::infinity()),
+              passes);
     EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev1Filter>(0.0), 2);
     EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev1Filter>(-1.0), 2);
-    EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev1Filter>(nan), 2);
+    EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev1Filter>(aNaN), 2);
     EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev2Filter>(5.0), 3);
     EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev2Filter>(1.0), passes);
     EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev2Filter>(std::nextafter(1.0, 2.0)), 3);
     EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev2Filter>(0.0), 3);
-    EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev2Filter>(nan), 3);
+    EXPECT_EQ(VerdictOfRipple<kflC_Chebyshev2Filter>(aNaN), 3);
 }
 
 TEST(FilterRules, AreRaisedAtTheirPlace) {

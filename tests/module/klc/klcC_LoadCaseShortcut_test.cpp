@@ -1,6 +1,5 @@
 #include "klcC_LoadCaseShortcut.h"
 
-#include "RecordingAgent.h"
 #include "ShortcutFixture.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "ddr_ModelShortcut.h"
 
-#include "RecordingAgent.h"
 #include "ShortcutFixture.h"
+#include "support/RecordingWriteAgent.h"
 
 namespace ddr_ModelShortcut_test {
 
@@ -59,9 +59,12 @@ TEST_F(ModelShortcut, TheRootAnswersForTheNameOfTheDatabase) {
 }
 
 TEST_F(ModelShortcut, WritesItsNameAlone) {
-    std::vector<std::string> const expected = {"start 0x140002", "impl(-1) behind a handle",
-                                               "  start 0x140004", "  name(-1) \"bridge\""};
-    EXPECT_EQ(WrittenLines(ddr_ShortcutToModel("bridge")), expected);
+    EXPECT_EQ(nga_test::WriteLog().Write(ddr_ShortcutToModel("bridge")),
+              "start 0x140002\n"
+              "field -1:impl with handle {\n"
+              "  start 0x140004\n"
+              "  text -1:name=bridge\n"
+              "}\n");
 }
 
 TEST_F(ModelShortcut, TheComponentNamesItsClasses) {

@@ -8,7 +8,9 @@ kamC_Amplitude::kamC_Amplitude() = default;
 kamC_Amplitude::kamC_Amplitude(kamC_Amplitude const&) = default;
 kamC_Amplitude& kamC_Amplitude::operator=(kamC_Amplitude const&) = default;
 
-// The stored identity of the base part is not read back: a read amplitude has a new one there.
-kamC_Amplitude::kamC_Amplitude(cls_ReadVisitor const& visitor) {
+// The visitor is over the record of the concrete class, so both levels come back with its identity.
+// They are records of different classes, which keeps them apart.
+kamC_Amplitude::kamC_Amplitude(cls_ReadVisitor const& visitor) : uid() {
     Description().ReadFields(this, visitor);
+    uid = visitor.GetUid();
 }

@@ -94,3 +94,11 @@ atr_String kbeC_ContentErrorText(kbeC_ContentErrorEnm code, cow_String const& na
 void kbeC_FailContent(kbeC_ContentErrorEnm code, cow_String const& name) {
     nex_TextException(kbeC_ContentErrorText(code, name)).Throw(kbeSource, 170);
 }
+
+mdl_Module const kbeC_Module = {
+    "kbe", [](int code) { return kbeC_ErrorText(kbeC_ErrorEnm(code)); },
+    [](int code) { kbeC_Fail(kbeC_ErrorEnm(code)); },
+    [](int code, cow_String const& name) {
+        return kbeC_ContentErrorText(kbeC_ContentErrorEnm(code), name);
+    },
+    [](int code, cow_String const& name) { kbeC_FailContent(kbeC_ContentErrorEnm(code), name); }};

@@ -8,5 +8,6 @@ kbpC_BeamProfile::kbpC_BeamProfile() = default;
 kbpC_BeamProfile::kbpC_BeamProfile(kbpC_BeamProfile const&) = default;
 kbpC_BeamProfile& kbpC_BeamProfile::operator=(kbpC_BeamProfile const&) = default;
 
-// The stored identity of the base part is not read back: a read profile has a new one there.
-kbpC_BeamProfile::kbpC_BeamProfile(cls_ReadVisitor const&) {}
+// The visitor is over the record of the concrete class, so both levels come back with its identity.
+// They are records of different classes, which keeps them apart.
+kbpC_BeamProfile::kbpC_BeamProfile(cls_ReadVisitor const& visitor) : uid(visitor.GetUid()) {}

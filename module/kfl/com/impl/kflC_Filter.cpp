@@ -8,7 +8,9 @@ kflC_Filter::kflC_Filter() = default;
 kflC_Filter::kflC_Filter(kflC_Filter const&) = default;
 kflC_Filter& kflC_Filter::operator=(kflC_Filter const&) = default;
 
-// The stored identity of the base part is not read back: a read filter has a new one there.
-kflC_Filter::kflC_Filter(cls_ReadVisitor const& visitor) {
+// The visitor is over the record of the concrete class, so both levels come back with its identity.
+// They are records of different classes, which keeps them apart.
+kflC_Filter::kflC_Filter(cls_ReadVisitor const& visitor) : uid() {
     Description().ReadFields(this, visitor);
+    uid = visitor.GetUid();
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "nga_Picture.h"
+
+namespace nga {
+
+/// A picture for a terminal: about 60 columns of dots (Unicode's braille patterns, eight dots a
+/// character) and 16 rows, with numbers at both axes, the axes' names and the note. No line has
+/// blanks at its end. \p picture is one that there is.
+std::string PlotText(Picture const& picture);
+
+}  // namespace nga

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "kbeC_ConnectorBehaviorOption.h"
+
+/// Releases a component once the motion or the force in some components reaches a limit.
+/// One limit is enough.
+class kbeC_ConnectorFailure : public kbeC_ConnectorBehaviorOption {
+    DD_CLASS(kbeC_ConnectorFailure, kbeC_ConnectorBehaviorOption, 0x2A8001B, 811,
+             "ConnectorFailure")
+public:
+    KBE_EQUALITY(kbeC_ConnectorFailure)
+
+    /// The word for all components, which the field holds as allComponents. Nothing here turns the
+    /// one into the other.
+    DD_ENUM(ReleaseComponentEnm, ALL)
+    static constexpr int allComponents = -1;
+
+    /// 1 to 6, or allComponents, or not set.
+    DD_FIELD(int, releaseComponent, kbeC_NotSetInt)
+    DD_FIELD(double, minMotion, kbeC_NotSet)
+    DD_FIELD(double, maxMotion, kbeC_NotSet)
+    DD_FIELD(double, minForce, kbeC_NotSet)
+    DD_FIELD(double, maxForce, kbeC_NotSet)
+    DD_FIELD(cls_xp1DArrayListInt, components)
+    DD_END
+};
