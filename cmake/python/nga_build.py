@@ -17,7 +17,8 @@ Name: {NAME}
 Version: {VERSION}
 Summary: Attribute models of finite-element pre-processors
 Requires-Python: >=3.11
-Requires-Dist: numpy
+Provides-Extra: tables
+Requires-Dist: numpy; extra == 'tables'
 """
 
 
@@ -67,14 +68,18 @@ def _packed(files: dict[str, bytes], folder: str, name: str) -> str:
     return name
 
 
-def build_wheel(wheel_directory, config_settings=None, metadata_directory=None):
-    with tempfile.TemporaryDirectory() as scratch:
-        package = _build(scratch) / "nga"
-        files = {f"nga/{path.name}": path.read_bytes() for path in sorted(package.iterdir())
-                 if path.suffix in (".py", ".pyi", ".so", ".typed") or path.name == "py.typed"}
+def pack(package: pathlib.Path, folder: str) -> str:
+    """Makes the wheel of a package folder, and gives its name."""
+    files = {f"nga/{path.name}": path.read_bytes() for path in sorted(package.iterdir())
+             if path.suffix in (".py", ".pyi", ".so") or path.name == "py.typed"}
     if not any(path.endswith(".so") for path in files):
         sys.exit("the extension was not built: are python3-dev and pybind11-dev installed?")
-    return _packed(files, wheel_directory, f"{NAME}-{VERSION}-{_tag()}.whl")
+    return _packed(files, folder, f"{NAME}-{VERSION}-{_tag()}.whl")
+
+
+def build_wheel(wheel_directory, config_settings=None, metadata_directory=None):
+    with tempfile.TemporaryDirectory() as scratch:
+        return pack(_build(scratch) / "nga", wheel_directory)
 
 
 def prepare_metadata_for_build_wheel(metadata_directory, config_settings=None):

@@ -607,10 +607,6 @@ void DefineObjects(py::module_& module) {
         selection.object = Resolve(object);
         selection.description = object->state.description;
         selection.path = PathOf(object);
-        if (object->state.session || !object->state.field) {
-            selection.collection = object->state.collection;
-            selection.key = std::string(object->state.key.View());
-        }
         if (!MayHavePicture(selection)) return py::none();
         Picture const picture = PictureOf(selection);
         return picture.none.empty() ? Text(SvgText(picture)) : py::none();

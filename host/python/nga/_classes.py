@@ -4,9 +4,9 @@ from ._literal import Literal
 from ._model import FloatMap, Object, ObjectList, Repository
 
 #: Every class's facts, as the library tells them, by TypeId.
-facts_of = {}
-#: The classes by TypeId, and by the names that texts and people use.
-class_of = {}
+facts_of: dict[int, dict] = {}
+#: The classes by TypeId.
+class_of: dict[int, type] = {}
 
 
 def make(namespace, base):

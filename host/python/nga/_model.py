@@ -1,7 +1,6 @@
 """Documents, and the views on what they hold."""
 import builtins
 import collections.abc
-import copyreg
 import json
 import os
 import weakref
@@ -372,7 +371,8 @@ class Object(_nga.Object, metaclass=_Class):
 
 An object of a document holds nothing: it follows its path, also behind an undo, and raises
 ReferenceError when the path leads nowhere any more."""
-    _keyed = ()
+    _keyed: tuple = ()
+    _type_id: int = 0
 
     def __new__(cls, *, validate=True, **fields):
         if "_facts" not in vars(cls):
@@ -427,7 +427,7 @@ ReferenceError when the path leads nowhere any more."""
             return NotImplemented
         return _nga.same(self, other)
 
-    __hash__ = None
+    __hash__ = None  # type: ignore[assignment]
 
     def __repr__(self):
         if self.path is not None:
@@ -449,15 +449,9 @@ ReferenceError when the path leads nowhere any more."""
     def __reduce__(self):
         return _restore, (type(self)._type_id, _nga.to_json(self))
 
-    def __dir__(self):
-        return [name for name in super().__dir__()]
-
 
 def _restore(type_id, text):
     return _nga.from_json(type_id, text)
-
-
-copyreg.constructor(_restore)
 
 
 class Options(collections.abc.Mapping[str, Any]):
