@@ -30,7 +30,7 @@ namespace {
 using What = DiffValue::What;
 
 template <class T>
-T const& At(void const* at) {
+T const& ValueAt(void const* at) {
     return *static_cast<T const*>(at);
 }
 
@@ -98,7 +98,7 @@ private:
         switch (type.Kind()) {
             case mdl_FieldKind::Double:
                 if (IsNotSet(field, one) == IsNotSet(field, other) &&
-                    Near(At<double>(one), At<double>(other)))
+                    Near(ValueAt<double>(one), ValueAt<double>(other)))
                     return;
                 Found(path, FieldValue(description, field, one),
                       FieldValue(description, field, other));
@@ -119,13 +119,16 @@ private:
                     Place(path + IndexStep(i), type, one, i, other, i);
                 return;
             case mdl_FieldKind::IntList:
-                Lists(path, At<cls_xp1DArrayListInt>(one), At<cls_xp1DArrayListInt>(other));
+                Lists(path, ValueAt<cls_xp1DArrayListInt>(one),
+                      ValueAt<cls_xp1DArrayListInt>(other));
                 return;
             case mdl_FieldKind::DoubleList:
-                Lists(path, At<cls_xp1DArrayListDouble>(one), At<cls_xp1DArrayListDouble>(other));
+                Lists(path, ValueAt<cls_xp1DArrayListDouble>(one),
+                      ValueAt<cls_xp1DArrayListDouble>(other));
                 return;
             case mdl_FieldKind::FloatMap:
-                Maps(path, At<cls_xpMapString2Float>(one), At<cls_xpMapString2Float>(other));
+                Maps(path, ValueAt<cls_xpMapString2Float>(one),
+                     ValueAt<cls_xpMapString2Float>(other));
                 return;
             case mdl_FieldKind::Array:
                 Arrays(path, description, field, one, other);
@@ -160,8 +163,8 @@ private:
 
     void Arrays(std::string const& path, mdl_Description const& owner, mdl_Field const& field,
                 void const* one, void const* other) {
-        auto const& before = At<cls_xp2DArrayDouble>(one).ConstGet();
-        auto const& after = At<cls_xp2DArrayDouble>(other).ConstGet();
+        auto const& before = ValueAt<cls_xp2DArrayDouble>(one).ConstGet();
+        auto const& after = ValueAt<cls_xp2DArrayDouble>(other).ConstGet();
         if (before.Rows() != after.Rows() || before.Columns() != after.Columns()) {
             Found(path, FieldValue(owner, field, one), FieldValue(owner, field, other));
             return;

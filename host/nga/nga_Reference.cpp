@@ -14,12 +14,12 @@ namespace nga {
 
 namespace {
 
-std::string ClassName(mdl_Description const& description) {
+std::string PageName(mdl_Description const& description) {
     return description.Constructor() ? description.Constructor() : description.Name();
 }
 
 /// What stands between the bars of a table.
-std::string Cell(std::string text) {
+std::string InCell(std::string text) {
     for (std::size_t at = 0; (at = text.find('|', at)) != std::string::npos; at += 2)
         text.replace(at, 1, "\\|");
     for (char& c : text)
@@ -27,9 +27,9 @@ std::string Cell(std::string text) {
     return text;
 }
 
-std::string TypeText(mdl_Description const& owner, mdl_Field const& field) {
+std::string TypeCell(mdl_Description const& owner, mdl_Field const& field) {
     mdl_FieldType const& type = field.Type();
-    std::string const held = type.Held() ? ClassName(*type.Held()) : "";
+    std::string const held = type.Held() ? PageName(*type.Held()) : "";
     switch (type.Kind()) {
         case mdl_FieldKind::Int:
         case mdl_FieldKind::Double: {
@@ -67,13 +67,13 @@ std::string TypeText(mdl_Description const& owner, mdl_Field const& field) {
     return std::string();
 }
 
-std::string Default(std::string text) {
+std::string DefaultCell(std::string text) {
     for (std::size_t at = 0; (at = text.find("nga.", at)) != std::string::npos;) text.erase(at, 4);
     return text == "None" ? "not set" : text;
 }
 
 /// Where objects of the class can stand.
-std::string Places(mdl_Description const& description) {
+std::string PlacesOf(mdl_Description const& description) {
     std::string text;
     auto const add = [&](std::string const& place) {
         text += (text.empty() ? "`" : ", `") + place + "`";
@@ -87,7 +87,7 @@ std::string Places(mdl_Description const& description) {
         if (!owner || owner->IsAbstract()) continue;
         for (mdl_Field const* field : owner->AllFields())
             if (field->Type().Held() == &description)
-                add(ClassName(*owner) + FieldStep(*owner, *field) +
+                add(PageName(*owner) + FieldStep(*owner, *field) +
                     (field->Type().Kind() == mdl_FieldKind::Option ||
                              field->Type().Kind() == mdl_FieldKind::Object
                          ? ""
@@ -96,13 +96,13 @@ std::string Places(mdl_Description const& description) {
     return text;
 }
 
-std::string Section(mdl_Description const& description) {
-    std::string text = "## " + ClassName(description) + "\n\n`" + description.Name() + "`";
-    if (description.Base()) text += ", a `" + ClassName(*description.Base()) + "`";
+std::string ClassSection(mdl_Description const& description) {
+    std::string text = "## " + PageName(description) + "\n\n`" + description.Name() + "`";
+    if (description.Base()) text += ", a `" + PageName(*description.Base()) + "`";
     text += ", in this form since schema " + std::to_string(description.Version()) + ".";
     if (description.IsAbstract()) text += " It has no objects of its own.";
     text += "\n";
-    std::string const places = Places(description);
+    std::string const places = PlacesOf(description);
     if (!places.empty()) text += "\nStands at: " + places + "\n";
     DescribedObject const usual(description.IsAbstract() ? nullptr : description.Create(),
                                 DescribedDeleter{&description});
@@ -110,10 +110,10 @@ std::string Section(mdl_Description const& description) {
         text += "\n| field | type | default | constructor |\n|---|---|---|---|\n";
         for (mdl_Field const* field : description.AllFields()) {
             std::string const value =
-                usual ? Default(ScriptValue(description, *field, field->At(usual.get()))) : "";
+                usual ? DefaultCell(ScriptValue(description, *field, field->At(usual.get()))) : "";
             text += "| `" + std::string(field->Script()) + "` | " +
-                    Cell(TypeText(description, *field)) + " | " + Cell(value) + " | " +
-                    Cell(ConstructorOf(description, *field)) + " |\n";
+                    InCell(TypeCell(description, *field)) + " | " + InCell(value) + " | " +
+                    InCell(ConstructorOf(description, *field)) + " |\n";
         }
     }
     std::vector<ListedRule> const rules = RulesOf(description);
@@ -132,7 +132,7 @@ std::string ReferencePage(std::vector<cls_ClassMetadata const*> const& classes) 
     std::string text;
     for (cls_ClassMetadata const* metadata : classes) {
         mdl_Description const* const description = mdl_Description::Find(metadata->TypeId());
-        if (description && !IsTable(*description)) text += Section(*description);
+        if (description && !IsTable(*description)) text += ClassSection(*description);
     }
     if (!text.empty()) text.pop_back();
     return text;

@@ -9,9 +9,9 @@ namespace nga {
 namespace {
 
 /// Lets every rule hold on and notes which there are. Its rules are those of one object alone.
-class Lister final : public mdl_RuleVisitor {
+class RuleLister final : public mdl_RuleVisitor {
 public:
-    Lister(mdl_Module const& module, std::vector<ListedRule>& rules)
+    RuleLister(mdl_Module const& module, std::vector<ListedRule>& rules)
         : m_module(module), m_rules(rules) {}
 
 protected:
@@ -42,8 +42,9 @@ private:
     std::size_t m_next = 0;
 };
 
-void Run(mdl_Description const& description, void const* object, std::vector<ListedRule>& rules) {
-    Lister lister(*description.Module(), rules);
+void RunRulesOn(mdl_Description const& description, void const* object,
+                std::vector<ListedRule>& rules) {
+    RuleLister lister(*description.Module(), rules);
     try {
         description.RunRules(object, lister);
     } catch (nex_Exception const&) {
@@ -71,12 +72,12 @@ void RunChanged(mdl_Description const& description, void const* base,
                 std::vector<ListedRule>& rules, Change const& change) {
     DescribedObject const object(description.Copy(base), DescribedDeleter{&description});
     change(object.get());
-    Run(description, object.get(), rules);
+    RunRulesOn(description, object.get(), rules);
 }
 
 void RunVariants(mdl_Description const& description, void const* base,
                  std::vector<ListedRule>& rules) {
-    Run(description, base, rules);
+    RunRulesOn(description, base, rules);
     for (mdl_Field const* field : description.AllFields()) {
         mdl_FieldType const& type = field->Type();
         if (type.Kind() == mdl_FieldKind::Enum)

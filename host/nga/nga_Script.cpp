@@ -17,16 +17,16 @@ namespace nga {
 
 namespace {
 
-constexpr std::size_t lineWidth = 96;
+constexpr std::size_t scriptWidth = 96;
 
 template <class T>
-T const& At(void const* at) {
+T const& Read(void const* at) {
     return *static_cast<T const*>(at);
 }
 
 /// A text as a literal that Python reads back byte for byte: a byte that is no UTF-8 is what the
 /// surrogateescape handler makes of it.
-std::string Text(std::string_view text) {
+std::string Literal(std::string_view text) {
     std::string const quoted = Quoted(text);
     std::string result;
     for (std::size_t i = 0; i < quoted.size(); ++i) {
@@ -47,18 +47,18 @@ std::string Text(std::string_view text) {
 }
 
 /// \p text is the number as JSON writes it, where the special ones are strings.
-std::string Number(std::string const& text) {
+std::string NumberText(std::string const& text) {
     if (text[0] != '"') return text;
     if (text == "\"NaN\"") return "float('nan')";
     if (text == "\"Infinity\"") return "float('inf')";
     if (text == "\"-Infinity\"") return "float('-inf')";
     return "nga.real('" + text.substr(1, text.size() - 2) + "')";
 }
-std::string Real(double value) { return Number(JsonWriter::DoubleText(value)); }
+std::string RealText(double value) { return NumberText(JsonWriter::DoubleText(value)); }
 
 /// Parts in brackets, on one line where they fit. One part of a tuple needs a comma behind it.
-std::string Joined(char const* open, std::vector<std::string> const& parts, char const* close,
-                   std::string const& indent) {
+std::string InBrackets(char const* open, std::vector<std::string> const& parts, char const* close,
+                       std::string const& indent) {
     bool const tuple = *open == '(' && open[1] == '\0';
     std::size_t length = indent.size() + 2;
     bool lines = false;
@@ -67,7 +67,7 @@ std::string Joined(char const* open, std::vector<std::string> const& parts, char
         lines = lines || part.find('\n') != std::string::npos;
     }
     std::string text = open;
-    if (!lines && length <= lineWidth) {
+    if (!lines && length <= scriptWidth) {
         for (std::size_t i = 0; i < parts.size(); ++i) text += (i ? ", " : "") + parts[i];
         if (tuple && parts.size() == 1) text += ',';
         return text + close;
@@ -76,109 +76,110 @@ std::string Joined(char const* open, std::vector<std::string> const& parts, char
     return text + "\n" + indent + close;
 }
 
-std::string Rows(cow_2DArrayRep<double> const& cells, std::string const& indent) {
+std::string RowsText(cow_2DArrayRep<double> const& cells, std::string const& indent) {
     if (cells.Rows() == 0 && cells.Columns() > 0)
         return "nga.empty_table(" + std::to_string(cells.Columns()) + ")";
     std::vector<std::string> rows;
     for (int row = 0; row < cells.Rows(); ++row) {
         std::vector<std::string> numbers;
         for (int column = 0; column < cells.Columns(); ++column)
-            numbers.push_back(Real(cells.Cell(row, column)));
-        rows.push_back(Joined("(", numbers, ")", indent + "    "));
+            numbers.push_back(RealText(cells.Cell(row, column)));
+        rows.push_back(InBrackets("(", numbers, ")", indent + "    "));
     }
-    return Joined("(", rows, ")", indent);
+    return InBrackets("(", rows, ")", indent);
 }
 
-std::string Expression(mdl_Description const& description, void const* object,
-                       std::string const& indent);
+std::string ObjectExpression(mdl_Description const& description, void const* object,
+                             std::string const& indent);
 
-std::string Table(mdl_Description const& table, void const* object, void const* usual,
-                  std::string const& indent) {
+std::string TableText(mdl_Description const& table, void const* object, void const* usual,
+                      std::string const& indent) {
     std::vector<std::string> parts;
     for (mdl_Field const* field : table.AllFields())
         if (field->Type().Kind() == mdl_FieldKind::Bool &&
             !field->Type().Same(field->At(object), field->At(usual)))
             parts.push_back("'" + std::string(field->Script()) +
-                            "': " + (At<bool>(field->At(object)) ? "True" : "False"));
+                            "': " + (Read<bool>(field->At(object)) ? "True" : "False"));
     std::string const rows =
-        Rows(At<cls_xp2DArrayDouble>(CellsOf(table).At(object)).ConstGet(), indent);
+        RowsText(Read<cls_xp2DArrayDouble>(CellsOf(table).At(object)).ConstGet(), indent);
     if (parts.empty()) return rows;
     parts.push_back("'data': " + rows);
-    return Joined("{", parts, "}", indent);
+    return InBrackets("{", parts, "}", indent);
 }
 
 /// The value of a plain number that has a word for it; empty for any other.
 std::string NumberWord(mdl_Description const& owner, mdl_Field const& field, void const* at) {
     for (FieldLiteral const* row : LiteralsOf(owner, field)) {
         double const value = field.Type().Kind() == mdl_FieldKind::Int
-                                 ? static_cast<double>(At<int>(at))
-                                 : At<double>(at);
+                                 ? static_cast<double>(Read<int>(at))
+                                 : Read<double>(at);
         if (value == row->value) return "nga." + std::string(row->literal);
     }
     return IsNotSet(field, at) ? "None" : "";
 }
 
 /// \p usual is the field of an object as its constructor makes it, or null.
-std::string Value(mdl_Description const& owner, mdl_Field const& field, void const* at,
-                  void const* usual, std::string const& indent) {
+std::string ValueExpression(mdl_Description const& owner, mdl_Field const& field, void const* at,
+                            void const* usual, std::string const& indent) {
     mdl_FieldType const& type = field.Type();
     std::vector<std::string> parts;
     switch (type.Kind()) {
         case mdl_FieldKind::Int: {
             std::string const word = NumberWord(owner, field, at);
-            return word.empty() ? std::to_string(At<int>(at)) : word;
+            return word.empty() ? std::to_string(Read<int>(at)) : word;
         }
         case mdl_FieldKind::Double: {
             std::string const word = NumberWord(owner, field, at);
-            return word.empty() ? Real(At<double>(at)) : word;
+            return word.empty() ? RealText(Read<double>(at)) : word;
         }
         case mdl_FieldKind::Bool:
-            return At<bool>(at) ? "True" : "False";
+            return Read<bool>(at) ? "True" : "False";
         case mdl_FieldKind::String:
-            return Text(At<cow_String>(at).View());
+            return Literal(Read<cow_String>(at).View());
         case mdl_FieldKind::Enum: {
             omu_EnumRow const* row = omu_PrimEnumBase::FindRow(type.Rows(), type.Number(at));
             return row ? "nga." + std::string(row->literal) : std::to_string(type.Number(at));
         }
         case mdl_FieldKind::Object:
             if (IsTable(*type.Held())) {
-                if (usual) return Table(*type.Held(), at, usual, indent);
+                if (usual) return TableText(*type.Held(), at, usual, indent);
                 DescribedObject const plain(type.Held()->Create(), DescribedDeleter{type.Held()});
-                return Table(*type.Held(), at, plain.get(), indent);
+                return TableText(*type.Held(), at, plain.get(), indent);
             }
-            return Expression(*type.Held(), type.ConstObject(at, 0), indent);
+            return ObjectExpression(*type.Held(), type.ConstObject(at, 0), indent);
         case mdl_FieldKind::Option: {
             void const* const object = type.ConstObject(at, 0);
             if (!object) return "None";
-            return Expression(*mdl_Description::Find(type.DynTypeIdOf(object)), object, indent);
+            return ObjectExpression(*mdl_Description::Find(type.DynTypeIdOf(object)), object,
+                                    indent);
         }
         case mdl_FieldKind::OptionList:
         case mdl_FieldKind::ObjectList:
             for (int i = 0; i < type.Count(at); ++i) {
                 void const* const object = type.ConstObject(at, i);
-                parts.push_back(object
-                                    ? Expression(*mdl_Description::Find(type.DynTypeIdOf(object)),
-                                                 object, indent + "    ")
-                                    : "None");
+                parts.push_back(
+                    object ? ObjectExpression(*mdl_Description::Find(type.DynTypeIdOf(object)),
+                                              object, indent + "    ")
+                           : "None");
             }
-            return Joined("[", parts, "]", indent);
+            return InBrackets("[", parts, "]", indent);
         case mdl_FieldKind::IntList:
-            for (int i = 0; i < At<cls_xp1DArrayListInt>(at).Size(); ++i)
-                parts.push_back(std::to_string(At<cls_xp1DArrayListInt>(at).ConstGet(i)));
-            return Joined("(", parts, ")", indent);
+            for (int i = 0; i < Read<cls_xp1DArrayListInt>(at).Size(); ++i)
+                parts.push_back(std::to_string(Read<cls_xp1DArrayListInt>(at).ConstGet(i)));
+            return InBrackets("(", parts, ")", indent);
         case mdl_FieldKind::DoubleList:
-            for (int i = 0; i < At<cls_xp1DArrayListDouble>(at).Size(); ++i)
-                parts.push_back(Real(At<cls_xp1DArrayListDouble>(at).ConstGet(i)));
-            return Joined("(", parts, ")", indent);
+            for (int i = 0; i < Read<cls_xp1DArrayListDouble>(at).Size(); ++i)
+                parts.push_back(RealText(Read<cls_xp1DArrayListDouble>(at).ConstGet(i)));
+            return InBrackets("(", parts, ")", indent);
         case mdl_FieldKind::FloatMap: {
-            cow_ConstMapIterator<cow_String, float> position(At<cls_xpMapString2Float>(at));
+            cow_ConstMapIterator<cow_String, float> position(Read<cls_xpMapString2Float>(at));
             for (position.First(); !position.IsDone(); position.Next())
-                parts.push_back(Text(position.CurrentKey().View()) + ": " +
-                                Number(JsonWriter::FloatText(position.CurrentValue())));
-            return Joined("{", parts, "}", indent);
+                parts.push_back(Literal(position.CurrentKey().View()) + ": " +
+                                NumberText(JsonWriter::FloatText(position.CurrentValue())));
+            return InBrackets("{", parts, "}", indent);
         }
         case mdl_FieldKind::Array:
-            return Rows(At<cls_xp2DArrayDouble>(at).ConstGet(), indent);
+            return RowsText(Read<cls_xp2DArrayDouble>(at).ConstGet(), indent);
     }
     return std::string();
 }
@@ -186,8 +187,8 @@ std::string Value(mdl_Description const& owner, mdl_Field const& field, void con
 /// "name=value" for each field that differs from the class's default, but for those that \p leave
 /// takes for itself; and what a constructor needs to let a broken object pass.
 template <class Leave>
-std::vector<std::string> Arguments(mdl_Description const& description, void const* object,
-                                   std::string const& indent, Leave const& leave) {
+std::vector<std::string> ArgumentTexts(mdl_Description const& description, void const* object,
+                                       std::string const& indent, Leave const& leave) {
     DescribedObject const usual(description.Create(), DescribedDeleter{&description});
     std::vector<std::string> parts;
     bool left = false;
@@ -200,7 +201,7 @@ std::vector<std::string> Arguments(mdl_Description const& description, void cons
             continue;
         }
         parts.push_back(std::string(field->Script()) + "=" +
-                        Value(description, *field, at, usualAt, indent + "    "));
+                        ValueExpression(description, *field, at, usualAt, indent + "    "));
     }
     void const* checked = object;
     DescribedObject bare(nullptr, DescribedDeleter{&description});
@@ -214,18 +215,18 @@ std::vector<std::string> Arguments(mdl_Description const& description, void cons
     return parts;
 }
 
-std::string ClassName(mdl_Description const& description) {
+std::string ScriptClass(mdl_Description const& description) {
     return description.Constructor() ? description.Constructor() : description.Name();
 }
 
-std::string Expression(mdl_Description const& description, void const* object,
-                       std::string const& indent) {
+std::string ObjectExpression(mdl_Description const& description, void const* object,
+                             std::string const& indent) {
     std::vector<std::string> const parts =
-        Arguments(description, object, indent, [](mdl_Field const&) { return false; });
-    return Joined(("nga." + ClassName(description) + "(").c_str(), parts, ")", indent);
+        ArgumentTexts(description, object, indent, [](mdl_Field const&) { return false; });
+    return InBrackets(("nga." + ScriptClass(description) + "(").c_str(), parts, ")", indent);
 }
 
-class Writer {
+class StatementWriter {
 public:
     std::string Take() { return std::move(m_text); }
 
@@ -260,15 +261,15 @@ private:
             if (done[j] || to.collection != from.collection || to.before || !to.after ||
                 !to.after->SharesWith(*from.before))
                 continue;
-            m_text += Repository(from) + ".rename(" + Text(from.key.View()) + ", " +
-                      Text(to.key.View()) + ")\n";
+            m_text += Repository(from) + ".rename(" + Literal(from.key.View()) + ", " +
+                      Literal(to.key.View()) + ")\n";
             done[i] = done[j] = true;
             return;
         }
     }
 
     void Entry(EntryChange const& change) {
-        std::string const place = Repository(change) + "[" + Text(change.key.View()) + "]";
+        std::string const place = Repository(change) + "[" + Literal(change.key.View()) + "]";
         if (!change.after) {
             if (change.before) m_text += "del " + place + "\n";
             return;
@@ -282,7 +283,7 @@ private:
             if (change.collection->DynTypeIdOf(before) == now->TypeId()) {
                 Changes(place, *now, before, after);
             } else {
-                m_text += place + " = " + Expression(*now, after, "") + "\n";
+                m_text += place + " = " + ObjectExpression(*now, after, "") + "\n";
             }
             return;
         }
@@ -295,8 +296,8 @@ private:
             return field.Type().Kind() == mdl_FieldKind::Option &&
                    !ConstructorOf(description, field).empty();
         };
-        std::vector<std::string> parts = Arguments(description, object, "", apart);
-        parts.insert(parts.begin(), "name=" + Text(change.key.View()));
+        std::vector<std::string> parts = ArgumentTexts(description, object, "", apart);
+        parts.insert(parts.begin(), "name=" + Literal(change.key.View()));
         std::vector<std::string> options;
         std::string const name = VariableName(description);
         for (mdl_Field const* field : description.AllFields()) {
@@ -305,7 +306,7 @@ private:
             if (held) options.push_back(Option(name, description, *field, held));
         }
         std::string const made =
-            Joined(("doc." + ClassName(description) + "(").c_str(), parts, ")", "");
+            InBrackets(("doc." + ScriptClass(description) + "(").c_str(), parts, ")", "");
         m_text += (options.empty() ? made : name + " = " + made) + "\n";
         for (std::string const& option : options) m_text += option + "\n";
     }
@@ -313,12 +314,13 @@ private:
                               mdl_Field const& field, void const* held) {
         mdl_Description const& inner = *mdl_Description::Find(field.Type().DynTypeIdOf(held));
         if (&inner != field.Type().Held())
-            return owner + "." + field.Script() + " = " + Expression(inner, held, "");
-        return Joined((owner + "." + ConstructorOf(description, field) + "(").c_str(),
-                      Arguments(inner, held, "", [](mdl_Field const&) { return false; }), ")", "");
+            return owner + "." + field.Script() + " = " + ObjectExpression(inner, held, "");
+        return InBrackets((owner + "." + ConstructorOf(description, field) + "(").c_str(),
+                          ArgumentTexts(inner, held, "", [](mdl_Field const&) { return false; }),
+                          ")", "");
     }
     static std::string VariableName(mdl_Description const& description) {
-        std::string name = ClassName(description);
+        std::string name = ScriptClass(description);
         name[0] =
             static_cast<char>(name[0] >= 'A' && name[0] <= 'Z' ? name[0] - 'A' + 'a' : name[0]);
         return name;
@@ -351,7 +353,7 @@ private:
             m_text += Option(place, description, field, type.ConstObject(other, 0)) + "\n";
         } else {
             // What is there now has its own usual flags, which an assignment keeps.
-            m_text += step + " = " + Value(description, field, other, one, "") + "\n";
+            m_text += step + " = " + ValueExpression(description, field, other, one, "") + "\n";
         }
     }
     static bool SameClasses(mdl_FieldType const& type, void const* one, void const* other) {
@@ -371,22 +373,23 @@ private:
 }  // namespace
 
 std::string ScriptValue(mdl_Description const& owner, mdl_Field const& field, void const* at) {
-    return Value(owner, field, at, nullptr, "");
+    return ValueExpression(owner, field, at, nullptr, "");
 }
 
 std::string ScriptObject(mdl_Description const& description, void const* object) {
-    return object ? Expression(description, object, "") : "None";
+    return object ? ObjectExpression(description, object, "") : "None";
 }
 
 std::string ScriptBody(History const& history) {
-    Writer writer;
+    StatementWriter writer;
     for (EditRun const& run : history.Runs()) writer.Run(run);
     return writer.Take();
 }
 
 std::string ScriptText(Document const& document, History const& history) {
-    std::string const opened = document.File().empty() ? "nga.new(" + Text(document.Name()) + ")"
-                                                       : "nga.open(" + Text(document.File()) + ")";
+    std::string const opened = document.File().empty()
+                                   ? "nga.new(" + Literal(document.Name()) + ")"
+                                   : "nga.open(" + Literal(document.File()) + ")";
     return "import nga\n\ndoc = " + opened + "\n" + ScriptBody(history);
 }
 

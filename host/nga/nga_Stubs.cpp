@@ -1,5 +1,6 @@
 #include "nga_Stubs.h"
 
+#include <cstring>
 #include <set>
 #include <vector>
 
@@ -30,12 +31,12 @@ _Array = _NDArray[_numpy.float64]
 _Rows = _Union[_NDArray[_Any], _Iterable[_Iterable[float]], _Mapping[str, _Any]]
 )";
 
-std::string ClassName(mdl_Description const& description) {
+std::string StubName(mdl_Description const& description) {
     return description.Constructor() ? description.Constructor() : description.Name();
 }
 
 /// Within a class its methods hide the classes of their names, so types go by another name.
-std::string TypeName(mdl_Description const& description) { return "_" + ClassName(description); }
+std::string TypeName(mdl_Description const& description) { return "_" + StubName(description); }
 
 bool HoldsTable(mdl_FieldType const& type) {
     return type.Kind() == mdl_FieldKind::Array ||
@@ -62,7 +63,7 @@ Types NumberTypes(mdl_Description const& owner, mdl_Field const& field, std::str
     return {number + " | _Literal | None", number + " | _Literal | " + Choices(words) + " | None"};
 }
 
-Types TypesOf(mdl_Description const& owner, mdl_Field const& field) {
+Types StubTypes(mdl_Description const& owner, mdl_Field const& field) {
     mdl_FieldType const& type = field.Type();
     if (HoldsTable(type)) return {"_Array", "_Rows"};
     switch (type.Kind()) {
@@ -105,18 +106,21 @@ Types TypesOf(mdl_Description const& owner, mdl_Field const& field) {
 std::string Parameters(mdl_Description const& description, std::string const& first) {
     std::string text = ", *" + first + ", validate: bool = ...";
     for (mdl_Field const* field : description.AllFields())
-        text += std::string(", ") + field->Script() + ": " + TypesOf(description, *field).taken +
+        text += std::string(", ") + field->Script() + ": " + StubTypes(description, *field).taken +
                 " = ...";
     return text;
 }
 
 std::string ClassStub(mdl_Description const& description) {
-    std::string const base = description.Base() ? ClassName(*description.Base()) : "_model.Object";
-    std::string text = "\nclass " + ClassName(description) + "(" + base + "):\n";
+    std::string const base = description.Base() ? StubName(*description.Base()) : "_model.Object";
+    std::string text = "\nclass " + StubName(description) + "(" + base + "):\n";
     for (mdl_Field const& field : description.Fields()) {
-        Types const types = TypesOf(description, field);
+        Types const types = StubTypes(description, field);
         text += std::string("    ") + field.Script() + ": _Field[" + types.given + ", " +
-                types.taken + "]\n";
+                types.taken + "]";
+        // Every object has a view of its options under this name, but for those with such a field.
+        text +=
+            std::strcmp(field.Script(), "options") == 0 ? "  # type: ignore[assignment]\n" : "\n";
     }
     text += "    def __init__(self" + Parameters(description, "") + ") -> None: ...\n";
     // Each class takes its own fields alone, which its base takes not.
@@ -129,7 +133,7 @@ std::string ClassStub(mdl_Description const& description) {
         text += "    def " + name + "(self" + Parameters(held, "") + ") -> " + TypeName(held) +
                 ": ...\n";
     }
-    return text + "\n_" + ClassName(description) + " = " + ClassName(description) + "\n";
+    return text + "\n_" + StubName(description) + " = " + StubName(description) + "\n";
 }
 
 std::string DocumentStub() {
@@ -139,7 +143,7 @@ std::string DocumentStub() {
                 "(self) -> _Repository[" + TypeName(collection->Held()) + "]: ...\n";
     for (Collection const* collection : Collection::All())
         for (NamedClass const& named : ClassesBelow(collection->Held()))
-            text += "    def " + ClassName(*named.description) + "(self" +
+            text += "    def " + StubName(*named.description) + "(self" +
                     Parameters(*named.description, ", name: str") + ") -> " +
                     TypeName(*named.description) + ": ...\n";
     return text;
@@ -171,7 +175,7 @@ std::string StubText() {
         }
         if (IsTable(*description)) continue;
         classes += ClassStub(*description);
-        all += "    \"" + ClassName(*description) + "\",\n";
+        all += "    \"" + StubName(*description) + "\",\n";
     }
     std::string constants;
     for (std::string const& literal : literals) {

@@ -10,6 +10,7 @@ cases and what else the library registers.
 
 Classes (nga.Elastic) and literals (nga.ISOTROPIC) are made from the library's own metadata.
 """
+from . import _made
 from ._literal import Literal
 from ._made import *
 from ._model import (MISSING, Difference, Finding, FloatMap, Journal, Object, ObjectList, Options,
@@ -17,3 +18,9 @@ from ._model import (MISSING, Difference, Finding, FloatMap, Journal, Object, Ob
 from ._nga import Error, Snapshot, StoreError, ValidationError
 
 __version__ = "0.1.0"
+
+# For "from nga import *": without open, which is Python's own.
+__all__ = ["MISSING", "Difference", "Error", "Finding", "FloatMap", "Journal", "Literal", "Object",
+           "ObjectList", "Options", "Repository", "Snapshot", "StoreError", "ValidationError",
+           "documents", "empty_table", "from_dict", "new", "real"]
+__all__ += _made.__all__

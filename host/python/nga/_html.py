@@ -33,7 +33,7 @@ def _value_html(item, field):
     if field["kind"] in ("options", "list"):
         return "".join(object_html(one, nested=True) for one in value if one is not None)
     if field["kind"] == "map":
-        return "".join(f"{_text(name)}: {_text(number)}<br>" for name, number in value.items())
+        return "".join(f"{_text(name)}: {_text(number)}<br/>" for name, number in value.items())
     return _code(repr(value) if field["kind"] != "str" else value)
 
 
@@ -50,8 +50,14 @@ def object_html(item, nested=False):
                    for field in all_fields(type(item)) if field["script"] in changed)
     body = f"<table>{rows}</table>" if rows else "<p>all fields at their defaults</p>"
     if nested:
-        return f"<details open><summary>{title}</summary>{body}</details>"
-    return f"<p>{title}</p>{body}{_nga.svg(item) or ''}"
+        return f"<details open='open'><summary>{title}</summary>{body}</details>"
+    return f"<p>{title}</p>{body}{_picture(item)}"
+
+
+def _picture(item):
+    svg = _nga.svg(item)
+    # Within a page, what makes it a document of its own has no place.
+    return svg[svg.index("<svg"):] if svg else ""
 
 
 def repository_html(repository):

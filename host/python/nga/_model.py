@@ -238,11 +238,12 @@ class DocumentBase:
         """The document as dictionaries and lists, as its JSON text has them."""
         return json.loads(self.to_json())
 
-    def __getattr__(self, name):
-        if name.startswith("_"):
-            raise AttributeError(name)
-        known = [known for known in dir(type(self)) if not known.startswith("_")]
-        raise AttributeError(f"a document has no attribute {name!r}{_nga.near(name, known)}")
+    if not TYPE_CHECKING:
+        def __getattr__(self, name):
+            if name.startswith("_"):
+                raise AttributeError(name)
+            known = [known for known in dir(type(self)) if not known.startswith("_")]
+            raise AttributeError(f"a document has no attribute {name!r}{_nga.near(name, known)}")
 
     def __repr__(self):
         return f"<Document {self.path}>"
