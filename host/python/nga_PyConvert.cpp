@@ -58,7 +58,14 @@ int IntFrom(FieldData const& field, PyObject* value) {
 
 double DoubleFrom(FieldData const& field, PyObject* value, char const* expected = "a number") {
     bool fits = true;
-    double const real = RealFrom(value, fits);
+    double real = 0;
+    try {
+        real = RealFrom(value, fits);
+    } catch (Failure const&) {
+        if (!PyErr_ExceptionMatches(PyExc_OverflowError)) throw;
+        PyErr_Clear();
+        WrongValue(field, "the number is out of range", expected);
+    }
     if (!fits) WrongType(field, value, expected);
     return real;
 }
@@ -96,17 +103,18 @@ unsigned LiteralFrom(FieldData const& field, PyObject* value) {
     omu_PrimEnumBase::RaiseLiteral(rows, FromText(value).c_str());
 }
 
-/// The elements of anything that can be walked, but for texts.
+/// The elements of anything that can be walked, but for texts. A tuple of its own: converting an
+/// element may run Python code, which might change a list.
 Ref Elements(FieldData const& field, PyObject* value, char const* expected) {
     if (PyUnicode_Check(value) || PyBytes_Check(value) || PyDict_Check(value))
         WrongType(field, value, expected);
-    PyObject* const fast = PySequence_Fast(value, "");
-    if (!fast) {
+    PyObject* const tuple = PySequence_Tuple(value);
+    if (!tuple) {
         if (!PyErr_ExceptionMatches(PyExc_TypeError)) throw Failure();
         PyErr_Clear();
         WrongType(field, value, expected);
     }
-    return Ref(fast);
+    return Ref(tuple);
 }
 
 cow_2DArray<double> RowsFrom(FieldData const& field, PyObject* value) {
@@ -115,12 +123,12 @@ cow_2DArray<double> RowsFrom(FieldData const& field, PyObject* value) {
     cow_2DArray<double> result;
     if (FromArray(value, result)) return result;
     Ref const rows = Elements(field, value, rowsText);
-    Py_ssize_t const count = PySequence_Fast_GET_SIZE(rows.Get());
+    Py_ssize_t const count = PyTuple_GET_SIZE(rows.Get());
     std::vector<double> cells;
     Py_ssize_t columns = 0;
     for (Py_ssize_t i = 0; i < count; ++i) {
-        Ref const row = Elements(field, PySequence_Fast_GET_ITEM(rows.Get(), i), rowsText);
-        Py_ssize_t const length = PySequence_Fast_GET_SIZE(row.Get());
+        Ref const row = Elements(field, PyTuple_GET_ITEM(rows.Get(), i), rowsText);
+        Py_ssize_t const length = PyTuple_GET_SIZE(row.Get());
         if (i == 0) columns = length;
         if (length != columns)
             WrongValue(field,
@@ -128,7 +136,7 @@ cow_2DArray<double> RowsFrom(FieldData const& field, PyObject* value) {
                        std::to_string(columns) + " as in the other rows");
         for (Py_ssize_t j = 0; j < length; ++j)
             cells.push_back(
-                DoubleFrom(field, PySequence_Fast_GET_ITEM(row.Get(), j), "a number in each cell"));
+                DoubleFrom(field, PyTuple_GET_ITEM(row.Get(), j), "a number in each cell"));
     }
     if (cells.size() > static_cast<std::size_t>(INT_MAX) || count > INT_MAX)
         WrongValue(field, "the table is too large", "fewer rows");
@@ -167,6 +175,8 @@ cow_Map<cow_String, float> FloatsFrom(FieldData const& field, PyObject* value) {
     cow_Map<cow_String, float> result;
     for (Py_ssize_t i = 0; i < PyList_GET_SIZE(items.Get()); ++i) {
         PyObject* const item = PyList_GET_ITEM(items.Get(), i);
+        if (!PyTuple_Check(item) || PyTuple_GET_SIZE(item) != 2)
+            WrongType(field, item, "pairs of names and numbers");
         PyObject* const key = PyTuple_GET_ITEM(item, 0);
         if (!PyUnicode_Check(key)) WrongType(field, key, "a name");
         std::string const name = FromText(key);
@@ -206,8 +216,8 @@ std::vector<DescribedObject> ObjectsFrom(FieldData const& field, PyObject* value
         return result;
     }
     Ref const elements = Elements(field, value, "a sequence of objects");
-    for (Py_ssize_t i = 0; i < PySequence_Fast_GET_SIZE(elements.Get()); ++i) {
-        PyObject* const element = PySequence_Fast_GET_ITEM(elements.Get(), i);
+    for (Py_ssize_t i = 0; i < PyTuple_GET_SIZE(elements.Get()); ++i) {
+        PyObject* const element = PyTuple_GET_ITEM(elements.Get(), i);
         if (element == Py_None && kind == mdl_FieldKind::OptionList)
             result.emplace_back(nullptr, DescribedDeleter());
         else
@@ -221,8 +231,8 @@ cow_List<T> ListFrom(FieldData const& field, PyObject* value, char const* expect
                      Convert const& convert) {
     Ref const elements = Elements(field, value, expected);
     cow_List<T> list;
-    for (Py_ssize_t i = 0; i < PySequence_Fast_GET_SIZE(elements.Get()); ++i)
-        list.Append(convert(PySequence_Fast_GET_ITEM(elements.Get(), i)));
+    for (Py_ssize_t i = 0; i < PyTuple_GET_SIZE(elements.Get()); ++i)
+        list.Append(convert(PyTuple_GET_ITEM(elements.Get(), i)));
     return list;
 }
 

@@ -2,7 +2,6 @@
 
 #include <structmember.h>
 
-#include <algorithm>
 #include <unordered_map>
 
 #include "nex_Exception.h"
@@ -38,12 +37,9 @@ bool IsRoot(ObjectState const& state) { return state.field == nullptr; }
 void Forget(Object* object) {
     ObjectState& state = object->state;
     if (!IsRoot(state)) {
-        std::vector<Object*>& siblings = As(state.owner)->state.children;
-        auto const found = std::find(siblings.begin(), siblings.end(), object);
-        if (found != siblings.end()) {
-            *found = siblings.back();
-            siblings.pop_back();
-        }
+        auto& siblings = As(state.owner)->state.children;
+        auto const found = siblings.find({state.field, state.index});
+        if (found != siblings.end() && found->second == object) siblings.erase(found);
     } else if (state.session) {
         auto const found =
             state.session->roots.find({state.collection, std::string(state.key.View())});
@@ -200,19 +196,16 @@ Ref RootObject(std::shared_ptr<Session> const& session, PyObject* document,
 
 Ref ChildObject(Object* owner, mdl_Field const& field, int index,
                 mdl_Description const& description) {
-    for (Object* child : owner->state.children)
-        if (child->state.field == &field && child->state.index == index &&
-            child->state.description == &description)
-            return Ref::Share(Plain(child));
+    Object*& place = owner->state.children[{&field, index}];
+    if (place && place->state.description == &description) return Ref::Share(Plain(place));
     Object* const made = Allocate(description);
     Py_INCREF(Plain(owner));
     made->state.owner = Plain(owner);
     made->state.root = owner->state.root;
     made->state.field = &field;
     made->state.index = index;
-    Ref result(Plain(made));
-    owner->state.children.push_back(made);
-    return result;
+    place = made;
+    return Ref(Plain(made));
 }
 
 Ref OwnedObject(DescribedObject object) {

@@ -31,8 +31,9 @@ struct ObjectState {
     /// Where the object stood when the stamp had this value.
     void const* at = nullptr;
     std::uint64_t seen = 0;
-    /// Handles on what this object holds; they own this one, and leave the list with their end.
-    std::vector<Object*> children;
+    /// Handles on what this object holds, by field and place; they own this one, and leave the map
+    /// with their end.
+    std::map<std::pair<mdl_Field const*, int>, Object*> children;
 };
 
 struct Object {

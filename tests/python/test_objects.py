@@ -119,6 +119,49 @@ def test_numbers_are_taken_as_python_has_them(steel):
     assert elastic.dependencies == 2
 
 
+def test_values_that_run_python_code_do_no_harm(steel):
+    elastic = steel.Elastic(table=((1.0, 2.0),))
+    rows = [[1.0, 2.0], [3.0, 4.0]]
+
+    class Clears:
+        def __float__(self):
+            rows.clear()
+            steel.elastic = None
+            return 5.0
+
+    rows[0][0] = Clears()
+    with pytest.raises(ReferenceError):
+        elastic.table = rows
+    steel.Elastic(table=((1.0, 2.0),))
+
+    class Fails:
+        def __float__(self):
+            raise ZeroDivisionError
+
+    with pytest.raises(ZeroDivisionError):
+        elastic.table = ((Fails(), 1.0),)
+    with pytest.raises(ValueError, match="out of range"):
+        elastic.table = ((10**400, 1.0),)
+    assert elastic.table.tolist() == [[1.0, 2.0]]
+
+    class Pairs(dict):
+        def items(self):
+            return [5]
+
+    case = steel.document.LoadCase(name="a")
+    for wrong in (Pairs(), 5, "wind", ["wind"]):
+        with pytest.raises(TypeError):
+            case.loads = wrong
+
+
+def test_a_long_list_is_walked_with_all_its_handles_kept(steel):
+    mullins = steel.MullinsEffect(validate=False)
+    mullins.uniaxialTests = [nga.UniaxialTestData(table=((float(i), 1.0),)) for i in range(5000)]
+    kept = list(mullins.uniaxialTests)
+    assert kept[4321].table[0, 0] == 4321.0
+    assert kept[4321] is mullins.uniaxialTests[4321]
+
+
 def test_a_number_that_is_not_set_is_none_or_its_literal(steel):
     hyper = nga.Hyperelastic(validate=False)
     assert hyper.beta is nga.FITTED_VALUE

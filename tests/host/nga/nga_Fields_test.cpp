@@ -44,7 +44,7 @@ TEST(Fields, EveryKindOfFieldIsCopied) {
         EXPECT_TRUE(field->Type().Same(field->At(&from), field->At(&to))) << field->Name();
         ++copied;
     }
-    EXPECT_EQ(copied, 15);
+    EXPECT_EQ(copied, 16);
     EXPECT_TRUE(SampleAll::Description().Same(&from, &to));
 }
 
