@@ -540,9 +540,10 @@ private:
         nga::Journal journal;
         OnConflict const rule = ConflictRule(m_arguments.onConflict);
         if (m_arguments.script) {
+            std::string const opening = ScriptOpening(document);
             History history(document.Model());
             InFile(m_arguments.file, [&] { ImportRecorded(document, history, text, rule); });
-            m_console.Result(ScriptText(document, history));
+            m_console.Result(ScriptText(opening, history));
             return exitFine;
         }
         InFile(m_arguments.file, [&] { ImportJson(document, text, rule); });

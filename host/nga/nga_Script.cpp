@@ -386,11 +386,13 @@ std::string ScriptBody(History const& history) {
     return writer.Take();
 }
 
-std::string ScriptText(Document const& document, History const& history) {
-    std::string const opened = document.File().empty()
-                                   ? "nga.new(" + Literal(document.Name()) + ")"
-                                   : "nga.open(" + Literal(document.File()) + ")";
-    return "import nga\n\ndoc = " + opened + "\n" + ScriptBody(history);
+std::string ScriptOpening(Document const& document) {
+    if (document.File().empty()) return "nga.new(" + Literal(document.Name()) + ")";
+    return "nga.open(" + Literal(document.File()) + ")";
+}
+
+std::string ScriptText(std::string const& opening, History const& history) {
+    return "import nga\n\ndoc = " + opening + "\n" + ScriptBody(history);
 }
 
 }  // namespace nga

@@ -457,6 +457,9 @@ void DefineSession(py::module_& module) {
         .def_property_readonly("file", [](Session& s) { return Text(s.document.File()); })
         .def_property_readonly(
             "path", [](Session& s) { return Text(ScriptPath(DocumentPath(s.document))); })
+        .def_property(
+            "opening", [](Session& s) { return Text(s.opening); },
+            [](Session& s, py::handle opening) { s.opening = From(opening); })
         .def("enter", [](Session& s) { s.Enter(); })
         .def("save",
              [](Session& s) {
@@ -525,7 +528,7 @@ void DefineSession(py::module_& module) {
         .def("script",
              [](Session& s) {
                  s.Enter();
-                 return Text(ScriptText(s.document, s.history));
+                 return Text(ScriptText(s.opening, s.history));
              })
         .def("script_body",
              [](Session& s) {

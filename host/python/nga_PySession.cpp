@@ -1,12 +1,14 @@
 #include "nga_PySession.h"
 
 #include "nga_Names.h"
+#include "nga_Script.h"
 #include "omu_ChangeHistory.h"
 #include "thr_ThreadSingleton.h"
 
 namespace nga::python {
 
-Session::Session(Document made) : document(std::move(made)), history(document.Model()) {}
+Session::Session(Document made)
+    : document(std::move(made)), history(document.Model()), opening(ScriptOpening(document)) {}
 
 void Session::RefuseThread() const {
     Fail(PyExc_RuntimeError,

@@ -28,6 +28,8 @@ public:
     History history;
     /// Everything that was sent while this document was written to.
     std::vector<omu_PrimTuple> records;
+    /// How a script comes to the document as it was before the first step.
+    std::string opening;
     /// Goes up with every write: what a handle knows of addresses is good for one value.
     std::uint64_t stamp = 1;
     /// The handles of named objects, so that one object has one handle. None is owned.

@@ -115,3 +115,34 @@ def test_a_replay_is_one_step_or_none(doc):
     with pytest.raises(ValueError):
         doc.journal.replay(other)
     assert other.undo_count == 1
+
+
+def test_the_script_begins_where_the_session_began(tmp_path, example):
+    made = nga.new("made")
+    made.Material(name="steel")
+    made.save_as(tmp_path / "made.nga")
+    made.Material(name="iron")
+    assert made.journal.script.splitlines()[2] == "doc = nga.new('made')"
+    assert run(made.journal.script).to_json() == made.to_json()
+    text = tmp_path / "text.json"
+    text.write_text(example.to_json())
+    for opened in (nga.open(text), nga.open(tmp_path / "made.nga", name="other")):
+        opened.Material(name="a new one")
+        assert run(opened.journal.script).to_json() == opened.to_json()
+    copied = nga.from_dict("copied", example.to_dict())
+    assert copied.journal.script.splitlines()[2] == "doc = nga.documents['copied']"
+
+
+def test_names_that_change_places_come_out_right(doc):
+    doc.Material(name="a", description="first").Density(table=((1.0,),))
+    doc.Material(name="b", description="second").Elastic(table=((1.0, 2.0),))
+    doc.TabularAmplitude(name="x", data=((0.0, 0.0), (1.0, 1.0)))
+    start = nga.from_dict("start", doc.to_dict())
+    changed = nga.from_dict("changed", doc.to_dict())
+    changed.materials.rename("a", "c")
+    changed.materials.rename("b", "a")
+    changed.materials.rename("c", "b")
+    changed.amplitudes["x"] = nga.DecayAmplitude(maximum=2.0)
+    changed.journal.replay(start)
+    assert start.to_json() == changed.to_json()
+    assert start.materials["b"].density.table[0, 0] == 1.0

@@ -105,16 +105,21 @@ def open(path: str | os.PathLike[str], name: str | None = None) -> "Document":
         with builtins.open(path, encoding="utf-8", errors="surrogateescape") as file:
             text = file.read()
         stem = os.path.splitext(os.path.basename(path))[0]
-        return _document(_nga.Session.from_json(name or stem, text))
-    session = _nga.Session.open(path)
-    if name is not None:
-        session.name = name
+        session = _nga.Session.from_json(name or stem, text)
+    else:
+        session = _nga.Session.open(path)
+        if name is not None:
+            session.name = name
+    # How the journal's script comes to the start.
+    session.opening = f"nga.open({path!r})" if name is None else f"nga.open({path!r}, {name!r})"
     return _document(session)
 
 
 def from_dict(name: str, content: Mapping[str, Any]) -> "Document":
     """A document from what to_dict() gave."""
-    return _document(_nga.Session.from_json(name, json.dumps(content)))
+    session = _nga.Session.from_json(name, json.dumps(content))
+    session.opening = f"nga.documents[{name!r}]"
+    return _document(session)
 
 
 class _Edit:

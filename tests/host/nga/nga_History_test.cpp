@@ -134,7 +134,7 @@ TEST_F(HistoryTest, TheScriptTellsTheOutcomeOfEachRun) {
     m_history.Close();
     Insert("iron");
     Remove("iron");
-    EXPECT_EQ(nga::ScriptText(m_document, m_history),
+    EXPECT_EQ(nga::ScriptText(nga::ScriptOpening(m_document), m_history),
               "import nga\n\ndoc = nga.new('bench')\n"
               "doc.Material(name='steel', description='a\\'b')\n\n"
               "# a reason     in two lines\n"
