@@ -44,6 +44,12 @@ cp "$examples/loads_and_sections.json" .
 shown import loads_and_sections.json --into loads_and_sections.nga
 shown check loads_and_sections.nga
 
+step "Connectors: a hinge with all eight behaviours, and a rubber bushing"
+cp "$examples/hinge.json" .
+shown import hinge.json --into hinge.nga
+shown check hinge.nga
+shown tree hinge.nga
+
 step "A load over time, and a section with its properties, as pictures"
 shown show loads_and_sections.nga "amplitudes['smooth step']" --plot
 shown show loads_and_sections.nga "profiles['IPE 300 (EN 10365)']" --plot

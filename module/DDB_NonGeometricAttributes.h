@@ -60,6 +60,7 @@
 #include "typ_ArchCompTable.h"
 #include "typ_Entry.h"
 #include "uti_Guard.h"
+#include "uti_TranslationMap.h"
 
 #include "CaeUtils.h"
 #include "DDB_DeepCopy.h"

@@ -28,17 +28,18 @@ struct InWrapper {
     }
 };
 
+template <auto member>
 struct InHost {
     template <class Repository>
-    static klcC_LoadCaseCont const* Find(ddr_Model const& model, char const*) {
+    static Repository const* Find(ddr_Model const& model, char const*) {
         cow_String const name(HostExtension::extensionCmd());
         if (!model.HasInstance(name)) return nullptr;
-        return &static_cast<HostExtension const&>(model.ConstGetExtension(name)).loadCases;
+        return &(static_cast<HostExtension const&>(model.ConstGetExtension(name)).*member);
     }
     template <class Repository>
-    static klcC_LoadCaseCont& Get(ddr_Model& model, char const*) {
+    static Repository& Get(ddr_Model& model, char const*) {
         cow_String const name(HostExtension::extensionCmd());
-        return static_cast<HostExtension&>(model.GetExtension(name)).loadCases;
+        return static_cast<HostExtension&>(model.GetExtension(name)).*member;
     }
 };
 
@@ -148,10 +149,12 @@ std::vector<Collection const*> const& Collection::All() {
         kbpC_BeamProfile::profileRepositoryCmd());
     static RepositoryCollection<kflC_Filter, InWrapper> const filters(
         kflC_Filter::filterRepositoryCmd(), "Antialiasing", 6);
-    static RepositoryCollection<klcC_LoadCase, InHost> const loadCases(
+    static RepositoryCollection<nga_ConnectorSection, InHost<&HostExtension::sections>> const
+        sections(HostExtension::sectionCmd());
+    static RepositoryCollection<klcC_LoadCase, InHost<&HostExtension::loadCases>> const loadCases(
         klcC_LoadCase::loadCaseCmd());
-    static std::vector<Collection const*> const all = {&materials, &amplitudes, &profiles, &filters,
-                                                       &loadCases};
+    static std::vector<Collection const*> const all = {&materials, &amplitudes, &profiles,
+                                                       &filters,   &sections,   &loadCases};
     return all;
 }
 

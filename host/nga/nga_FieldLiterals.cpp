@@ -15,6 +15,8 @@ constexpr FieldLiteral literals[] = {
     {0x238002E, "beta", "FITTED_VALUE", DBL_MAX},
     {0x2440008, "smooth", "SOLVER_DEFAULT", DBL_MAX},
     {0x2440004, "smooth", "SOLVER_DEFAULT", DBL_MAX},
+    {0x2A8001A, "lockingComponent", "ALL", -1},
+    {0x2A8001B, "releaseComponent", "ALL", -1},
 };
 // clang-format on
 
@@ -35,6 +37,20 @@ bool SetNotSet(mdl_Field const& field, void* at) {
     else
         return false;
     return true;
+}
+
+char const* LiteralOfValue(mdl_Field const& field, void const* at) {
+    mdl_FieldKind const kind = field.Type().Kind();
+    if ((kind != mdl_FieldKind::Int && kind != mdl_FieldKind::Double) || IsNotSet(field, at))
+        return nullptr;
+    double const held =
+        kind == mdl_FieldKind::Int ? *static_cast<int const*>(at) : *static_cast<double const*>(at);
+    for (FieldLiteral const& row : literals) {
+        if (held != row.value || std::strcmp(row.script, field.Script()) != 0) continue;
+        mdl_Description const* owner = mdl_Description::Find(row.owner);
+        if (owner && owner->FindScript(row.script) == &field) return row.literal;
+    }
+    return nullptr;
 }
 
 std::vector<FieldLiteral const*> LiteralsOf(mdl_Description const& owner, mdl_Field const& field) {

@@ -21,6 +21,9 @@ struct FieldLiteral {
     double value;
 };
 
+/// The literal of what a field holds, or null: a value that stands for "not set" has none.
+char const* LiteralOfValue(mdl_Field const& field, void const* at);
+
 /// Those of one field. \p owner is the class that declares the field, or one below it.
 std::vector<FieldLiteral const*> LiteralsOf(mdl_Description const& owner, mdl_Field const& field);
 

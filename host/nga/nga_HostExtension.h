@@ -2,6 +2,7 @@
 
 #include "klcC_LoadCase.h"
 #include "mdl_Extension.h"
+#include "nga_ConnectorSection.h"
 
 namespace nga {
 
@@ -20,7 +21,7 @@ public:
     void NewUid() override;
 
     /// Whether there is nothing in it that a file would have to keep.
-    bool IsEmpty() const { return loadCases.IsEmpty(); }
+    bool IsEmpty() const { return loadCases.IsEmpty() && sections.IsEmpty(); }
     cls_Uid const& Uid() const { return m_uid; }
 
     static constexpr unsigned TypeId() { return 0x3840001; }
@@ -30,10 +31,15 @@ public:
     /// The name under which models know it.
     static constexpr omn_FixedString extensionCmd() { return omn_FixedString("host"); }
 
+    /// The name of the sections in paths and texts.
+    static constexpr omn_FixedString sectionCmd() { return omn_FixedString("sections"); }
+
     klcC_LoadCaseCont loadCases;
+    nga_ConnectorSectionContainer sections;
 
 private:
     static cls_FieldHandle LoadCasesField();
+    static cls_FieldHandle SectionsField();
 
     cls_Uid m_uid;
 };

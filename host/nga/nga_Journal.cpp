@@ -41,8 +41,7 @@ Journal::~Journal() {
 
 std::string Journal::Text() const {
     std::string text;
-    for (omu_PrimTuple const& record : m_records)
-        text += Printable(record.AsRepr().View()) + "\n";
+    for (omu_PrimTuple const& record : m_records) text += Printable(record.AsRepr().View()) + "\n";
     return text;
 }
 

@@ -14,6 +14,8 @@ constexpr std::uint16_t hostComponent = 900;
 constexpr typ_Entry hostRows[] = {
     /* 0 */ {typ_placeholderKind, typ_root, nullptr},
     /* 1 */ {typ_classKind, mdl_ExtensionTypeId, HostExtension::name},
+    /* 2 */ {typ_classKind, typ_root, "nga_ConnectorSection"},
+    /* 3 */ {typ_classKind, mdl_RepositoryTypeId, "nga_ConnectorSectionContainer"},
 };
 // clang-format on
 
@@ -29,6 +31,7 @@ void Start() {
     ddr_Model::RegisterExtension(cow_String(HostExtension::extensionCmd()), HostExtension());
     cls_MetadataRegistrar& registrar = omi_Singleton<cls_MetadataRegistrar>::Instance();
     registrar.initClassMetadata(HostExtension::InitializeMetadata, cls_DomainDatabase);
+    registrar.initClassMetadata(nga_ConnectorSection::InitializeMetadata, cls_DomainsAll);
     // A domain's classes, and with them their descriptions, come into being when first asked for.
     registrar.Domain(cls_DomainDatabase);
     started = true;

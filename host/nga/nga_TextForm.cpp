@@ -186,6 +186,10 @@ void WriteField(JsonWriter& writer, Defaults& defaults, mdl_Field const& field, 
         writer.Null();
         return;
     }
+    if (char const* literal = LiteralOfValue(field, at)) {
+        writer.String(literal);
+        return;
+    }
     switch (type.Kind()) {
         case mdl_FieldKind::Int:
             writer.Int(At<int>(at));

@@ -179,8 +179,9 @@ std::string ValueText(mdl_Field const& field, void const* at) {
     std::string const text = writer.TakeValue();
     std::string const value = text.substr(1, text.size() - 2);
     // Literals and flags read best bare.
-    if (field.Type().Kind() == mdl_FieldKind::Enum && value.size() > 2 && value[0] == '"')
-        return value.substr(1, value.size() - 2);
+    bool const isLiteral =
+        field.Type().Kind() == mdl_FieldKind::Enum || LiteralOfValue(field, at) != nullptr;
+    if (isLiteral && value.size() > 2 && value[0] == '"') return value.substr(1, value.size() - 2);
     return value;
 }
 

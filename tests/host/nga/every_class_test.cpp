@@ -3,6 +3,7 @@
 #include <map>
 
 #include "host/cli/tool_runner.h"
+#include "nga_ConnectorSection.h"
 #include "nga_Document.h"
 #include "nga_Error.h"
 #include "nga_FieldLiterals.h"
@@ -40,8 +41,10 @@ nga::Collection const* CollectionOf(mdl_Description const& description) {
 std::vector<mdl_Description const*> HeldClasses() {
     nga::Start();
     std::vector<mdl_Description const*> classes;
-    for (nga::NamedClass const& known : nga::ClassesBelow(kmaC_MaterialOption::Description()))
-        classes.push_back(known.description);
+    for (mdl_Description const* base :
+         {&kmaC_MaterialOption::Description(), &kbeC_ConnectorBehaviorOption::Description()})
+        for (nga::NamedClass const& known : nga::ClassesBelow(*base))
+            classes.push_back(known.description);
     for (nga::Collection const* collection : nga::Collection::All())
         for (mdl_Description const* named : NamedClasses(*collection)) classes.push_back(named);
     return classes;
@@ -64,8 +67,8 @@ nga::DescribedObject Read(mdl_Description const& description, std::string const&
     return nga::ReadObject(nga::ParseJson(text), nga::JsonPlace(), description);
 }
 
-/// A document with one changed object of every class: options stand alone in a list, where any may
-/// stand, since no field of a material holds the sub-options.
+/// A document with one changed object of every class: material options stand alone in a list, where
+/// any may stand, since no field of a material holds the sub-options.
 Document WithEveryClass() {
     Document document = Document::New("every");
     for (mdl_Description const* description : HeldClasses()) {
@@ -73,6 +76,11 @@ Document WithEveryClass() {
         cow_String const name(description->Name());
         if (nga::Collection const* collection = CollectionOf(*description)) {
             collection->Insert(document.Model(), name, object.release());
+        } else if (description->Base() == &kbeC_ConnectorBehaviorOption::Description()) {
+            auto* section = new nga_ConnectorSection;
+            mdl_Field const& list = *section->Description().FindField("options");
+            list.Type().Adopt(list.At(static_cast<void*>(section)), object.release());
+            CollectionOf(section->Description())->Insert(document.Model(), name, section);
         } else {
             auto* mullins = new kmaC_MullinsEffect;
             mdl_Field const& list = *mullins->Description().FindField("planarTests");
@@ -109,7 +117,7 @@ void EveryPathLeadsBack(Document const& document, nga::TreeNode const& node,
 
 TEST(EveryClass, ComesBackTheSameFromItsTextWithEveryFieldChanged) {
     std::vector<mdl_Description const*> const classes = HeldClasses();
-    EXPECT_GE(classes.size(), 145u);
+    EXPECT_GE(classes.size(), 154u);
     for (mdl_Description const* description : classes) {
         nga::DescribedObject const object = Changed(*description);
         std::string const text = TextOf(*description, object.get());

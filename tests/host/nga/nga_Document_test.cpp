@@ -333,9 +333,13 @@ TEST(HostExtension, IsRegisteredForDatabasesAlone) {
     cls_ClassMetadata const* metadata = registrar.Domain(cls_DomainDatabase).Find(typeId);
     ASSERT_NE(metadata, nullptr);
     EXPECT_EQ(metadata->ParentTypeId(), mdl_Extension::TypeId());
-    ASSERT_EQ(metadata->Attributes().size(), 1u);
-    EXPECT_EQ(metadata->Attributes()[0].type, cls_AttributeObject);
-    EXPECT_EQ(metadata->Attributes()[0].collection, cls_CollectionMapString);
+    ASSERT_EQ(metadata->Attributes().size(), 2u);
+    EXPECT_STREQ(metadata->Attributes()[0].field.Name().Text(), "loadCases");
+    EXPECT_STREQ(metadata->Attributes()[1].field.Name().Text(), "sections");
+    for (cls_Attribute const& attribute : metadata->Attributes()) {
+        EXPECT_EQ(attribute.type, cls_AttributeObject);
+        EXPECT_EQ(attribute.collection, cls_CollectionMapString);
+    }
     EXPECT_EQ(registrar.Domain(cls_DomainLibrary).Find(typeId), nullptr);
     EXPECT_EQ(registrar.Domain(cls_DomainMemory).Find(typeId), nullptr);
     EXPECT_STREQ(typ_ArchCompTable::GetName(typeId), "nga_HostExtension");

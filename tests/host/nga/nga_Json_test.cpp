@@ -66,6 +66,7 @@ TEST(Json, ImportPutsTheObjectsIn) {
                                                  {"amplitudes", 0},
                                                  {"profiles", 0},
                                                  {"filters", 0},
+                                                 {"sections", 0},
                                                  {"loadCases", 1}}));
     kmaC_Material const* steel = document.Materials().ConstGetPtr("steel");
     ASSERT_NE(steel, nullptr);
