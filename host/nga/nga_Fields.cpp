@@ -81,4 +81,16 @@ std::string ConstructorOf(mdl_Description const& owner, mdl_Field const& field) 
     return name;
 }
 
+std::vector<mdl_Description const*> ClassesToAppend(mdl_Description const& owner,
+                                                    mdl_Field const& field) {
+    std::vector<mdl_Description const*> classes;
+    if (field.Type().Kind() != mdl_FieldKind::OptionList || !field.Type().Held()->IsAbstract())
+        return classes;
+    for (mdl_Field const* other : owner.AllFields())
+        if (other != &field && other->Type().Held() == field.Type().Held()) return classes;
+    for (NamedClass const& named : ClassesBelow(*field.Type().Held()))
+        if (named.description->Constructor()) classes.push_back(named.description);
+    return classes;
+}
+
 }  // namespace nga

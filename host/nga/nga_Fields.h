@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "mdl_Description.h"
 
@@ -16,5 +17,10 @@ void CopyField(mdl_Field const& field, void const* from, void* to);
 /// that of the class where one field alone holds the class, else the field's name with a capital.
 /// Empty where there is none: for other fields, and where the class is known only at run time.
 std::string ConstructorOf(mdl_Description const& owner, mdl_Field const& field);
+
+/// The classes whose constructors, by their own names, append to a list of an abstract class; none
+/// where several fields of the owner could be meant.
+std::vector<mdl_Description const*> ClassesToAppend(mdl_Description const& owner,
+                                                    mdl_Field const& field);
 
 }  // namespace nga

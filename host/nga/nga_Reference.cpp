@@ -96,6 +96,13 @@ std::string PlacesOf(mdl_Description const& description) {
     return text;
 }
 
+std::string Constructors(mdl_Description const& owner, mdl_Field const& field) {
+    std::string text = ConstructorOf(owner, field);
+    for (mdl_Description const* made : ClassesToAppend(owner, field))
+        text += (text.empty() ? "" : ", ") + PageName(*made);
+    return text;
+}
+
 std::string ClassSection(mdl_Description const& description) {
     std::string text = "## " + PageName(description) + "\n\n`" + description.Name() + "`";
     if (description.Base()) text += ", a `" + PageName(*description.Base()) + "`";
@@ -113,7 +120,7 @@ std::string ClassSection(mdl_Description const& description) {
                 usual ? DefaultCell(ScriptValue(description, *field, field->At(usual.get()))) : "";
             text += "| `" + std::string(field->Script()) + "` | " +
                     InCell(TypeCell(description, *field)) + " | " + InCell(value) + " | " +
-                    InCell(ConstructorOf(description, *field)) + " |\n";
+                    InCell(Constructors(description, *field)) + " |\n";
         }
     }
     std::vector<ListedRule> const rules = RulesOf(description);

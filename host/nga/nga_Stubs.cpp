@@ -133,6 +133,10 @@ std::string ClassStub(mdl_Description const& description) {
         text += "    def " + name + "(self" + Parameters(held, "") + ") -> " + TypeName(held) +
                 ": ...\n";
     }
+    for (mdl_Field const* field : description.AllFields())
+        for (mdl_Description const* made : ClassesToAppend(description, *field))
+            text += "    def " + StubName(*made) + "(self" + Parameters(*made, "") + ") -> " +
+                    TypeName(*made) + ": ...\n";
     return text + "\n_" + StubName(description) + " = " + StubName(description) + "\n";
 }
 

@@ -97,16 +97,19 @@ py::dict ClassFacts(mdl_Description const& description) {
     py::list fields, keyed;
     for (mdl_Field const& field : description.Fields())
         fields.append(FieldFacts(description, field, object.get()));
-    py::dict constructors;
+    py::dict constructors, appended;
     for (mdl_Field const* field : description.AllFields()) {
         std::string const constructor = ConstructorOf(description, *field);
         if (!constructor.empty()) constructors[field->Script()] = constructor;
+        for (mdl_Description const* made : ClassesToAppend(description, *field))
+            appended[py::int_(made->TypeId())] = field->Script();
         if (FieldStep(description, *field)[1] == 'o' &&
             FieldStep(description, *field).rfind(".options[", 0) == 0)
             keyed.append(field->Script());
     }
     facts["fields"] = fields;
     facts["constructors"] = constructors;
+    facts["appended"] = appended;
     facts["keyed"] = keyed;
     return facts;
 }

@@ -245,6 +245,25 @@ def test_lists_of_objects_are_lists(steel):
     assert len(tests) == 0
 
 
+def test_a_list_of_an_abstract_class_has_a_constructor_for_each_class(doc):
+    hinge = doc.ConnectorSection(name="hinge")
+    elasticity = hinge.ConnectorElasticity(validate=False)
+    damping = hinge.ConnectorDamping(validate=False)
+    assert list(hinge.options) == [elasticity, damping]
+    assert hinge.options[1] is damping
+    assert damping.path == "documents['bench'].sections['hinge'].options[1]"
+    assert not hasattr(nga.MullinsEffect, "UniaxialTestData")  # three lists could be meant
+
+
+def test_a_number_with_a_literal_takes_and_gives_it(doc):
+    lock = nga.ConnectorLock(validate=False)
+    lock.lockingComponent = nga.ALL
+    assert lock.lockingComponent is nga.ALL
+    assert nga.ConnectorLock.from_dict(lock.to_dict()) == lock
+    lock.lockingComponent = 3
+    assert lock.lockingComponent == 3
+
+
 def test_maps_are_maps(doc):
     case = doc.LoadCase(name="service", loads={"wind": 1.0})
     case.loads["snow"] = 0.1

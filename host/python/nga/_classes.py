@@ -71,6 +71,10 @@ def _add_constructors(facts):
     for script, name in facts["constructors"].items():
         if not hasattr(owner, name):
             setattr(owner, name, _constructor(owner, script, name, class_of[held[script]]))
+    for type_id, script in facts["appended"].items():
+        made = class_of[type_id]
+        if not hasattr(owner, made.__name__):
+            setattr(owner, made.__name__, _constructor(owner, script, made.__name__, made))
 
 
 def _constructor(owner, script, name, made):
