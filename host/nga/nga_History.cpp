@@ -17,7 +17,7 @@ void History::Close() {
     if (step.kept.empty()) return;
     if (m_open.empty()) {
         m_done.push_back(std::move(step));
-        m_done.back().names.clear();
+        m_done.back().names.reset();
         m_undone.clear();
         return;
     }
@@ -48,9 +48,10 @@ bool History::Has(Step& step, Collection const& collection, cow_String const& ke
         return false;
     }
     // Entries join at the end, so the names lag behind by the last ones.
-    for (std::size_t i = step.names.size(); i < step.kept.size(); ++i)
-        step.names.insert(NameOf(*step.kept[i].collection, step.kept[i].key));
-    return step.names.count(NameOf(collection, key)) != 0;
+    if (!step.names) step.names = std::make_unique<std::unordered_set<std::string>>();
+    for (std::size_t i = step.names->size(); i < step.kept.size(); ++i)
+        step.names->insert(NameOf(*step.kept[i].collection, step.kept[i].key));
+    return step.names->count(NameOf(collection, key)) != 0;
 }
 
 void History::Touch(Collection const& collection, cow_String const& key) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_set>
@@ -71,7 +71,7 @@ private:
         std::string why;
         std::vector<KeptEntry> kept;
         /// The names in kept, once there are too many to look through.
-        std::unordered_set<std::string> names;
+        std::unique_ptr<std::unordered_set<std::string>> names;
     };
 
     static std::string NameOf(Collection const& collection, cow_String const& key);

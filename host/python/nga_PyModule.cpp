@@ -309,9 +309,16 @@ py::list Records(Session& session, std::size_t from) {
     session.Enter();
     py::list records;
     for (std::size_t i = from; i < session.records.size(); ++i) {
-        TupleOfPrimitive visitor;
-        session.records[i].Accept(&visitor);
-        records.append(visitor.result);
+        ChangeRecord const& record = session.records[i];
+        if (record.whole) {
+            TupleOfPrimitive visitor;
+            record.whole->Accept(&visitor);
+            records.append(visitor.result);
+        } else if (record.hasMark) {
+            records.append(py::make_tuple(record.what, Text(record.key.View()), record.mark));
+        } else {
+            records.append(py::make_tuple(record.what, Text(record.key.View())));
+        }
     }
     return records;
 }

@@ -263,12 +263,19 @@ void const* Resolve(Object* object) {
 
 void* Mutable(Object* object) {
     ObjectState& state = object->state;
-    if (IsRoot(state)) {
-        if (!state.session) return state.owned.get();
-        return state.collection->Get(state.session->document.Model(), state.key);
+    void* at;
+    if (!IsRoot(state)) {
+        void* const fieldAt = state.field->At(Mutable(As(state.owner)));
+        at = state.field->Type().MutableObject(fieldAt, state.index);
+    } else if (state.session) {
+        at = state.collection->Get(state.session->document.Model(), state.key);
+    } else {
+        return state.owned.get();
     }
-    void* const fieldAt = state.field->At(Mutable(As(state.owner)));
-    return state.field->Type().MutableObject(fieldAt, state.index);
+    // The way has just been made its own, so this is where the object stays till the next write.
+    state.at = at;
+    state.seen = StampOf(object);
+    return at;
 }
 
 std::string PathOf(Object* object) {

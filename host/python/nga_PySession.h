@@ -3,6 +3,7 @@
 #include "nga_PyFailure.h"
 
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <vector>
@@ -16,6 +17,17 @@ namespace nga::python {
 
 struct Object;
 
+/// A change record: the tuple that was sent, taken apart, since millions of them may be kept. The
+/// text is one of the few that repositories send, or empty for a tuple that is none of theirs and
+/// is kept whole.
+struct ChangeRecord {
+    char const* what = nullptr;
+    cow_String key;
+    int mark = 0;
+    bool hasMark = false;
+    std::shared_ptr<omu_PrimTuple const> whole;
+};
+
 /// A document as scripts work on it: with its history, the change records it sent, and the handles
 /// that scripts hold on its objects. It belongs to the thread that made it.
 class Session {
@@ -27,7 +39,7 @@ public:
     Document document;
     History history;
     /// Everything that was sent while this document was written to.
-    std::vector<omu_PrimTuple> records;
+    std::deque<ChangeRecord> records;
     /// How a script comes to the document as it was before the first step.
     std::string opening;
     /// Goes up with every write: what a handle knows of addresses is good for one value.
@@ -62,17 +74,26 @@ private:
 class Writing {
 public:
     explicit Writing(Session& session)
-        : m_session(session), m_recording(session), m_edit(session.history) {}
-    ~Writing() { ++m_session.stamp; }
+        : m_session(session), m_recording(session), m_edit(session.history) {
+        // Before the write, so that what is found on the way to it stays known.
+        ++session.stamp;
+    }
+    ~Writing() {
+        if (!m_isClosed) ++m_session.stamp;
+    }
     void Touch(Collection const& collection, cow_String const& key) {
         m_session.history.Touch(collection, key);
     }
-    void Close() { m_edit.Close(); }
+    void Close() {
+        m_edit.Close();
+        m_isClosed = true;
+    }
 
 private:
     Session& m_session;
     Recording m_recording;
     HistoryEdit m_edit;
+    bool m_isClosed = false;
 };
 
 }  // namespace nga::python
