@@ -28,5 +28,11 @@ if [ -d host ]; then
   find host/store host/nga host/cli -name '*.cpp' | sort |
     xargs -r -P "$(nproc)" -I{} clang++ "${flags[@]}" -Wno-unknown-warning-option -Ihost/store -Ihost/nga {} || failed=1
 fi
+if [ -d host/python ] && [ -n "$(find /usr/include -maxdepth 1 -name 'python3.*')" ]; then
+  say "The Python module under clang++"
+  find host/python -name '*.cpp' | sort |
+    xargs -r -P "$(nproc)" -I{} clang++ "${flags[@]}" -Wno-unknown-warning-option -Ihost/store -Ihost/nga \
+      -isystem "$(find /usr/include -maxdepth 1 -name 'python3.*' | sort | tail -1)" {} || failed=1
+fi
 
 exit $failed

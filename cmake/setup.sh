@@ -1,7 +1,8 @@
 # What ./run and ./test share: the packages they need, and the two steps of a build.
 
 NGA_BUILD_PACKAGES=(g++ cmake ninja-build libsqlite3-dev nlohmann-json3-dev libcli11-dev sqlite3)
-NGA_TEST_PACKAGES=(clang libgtest-dev libbenchmark-dev python3)
+NGA_TEST_PACKAGES=(clang libgtest-dev libbenchmark-dev python3 python3-dev python3-venv python3-pip
+  pybind11-dev python3-numpy python3-pytest mypy)
 
 nga_say() { printf '%s\n' "== $*" >&2; }
 

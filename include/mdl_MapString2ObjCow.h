@@ -33,6 +33,18 @@ public:
     bool Insert(cow_String const& key, T const& value) { return Insert(key, Handle(value.Copy())); }
     /// Takes ownership of \p value.
     bool Insert(cow_String const& key, T* value) { return Insert(key, Handle(value)); }
+    /// Shares what the handle holds, which must not be null.
+    bool Insert(cow_String const& given, Handle const& value) {
+        cow_String const key = given;  // the caller's may live in the node that goes
+        bool const replaced = m_map.ConstFind(key) != nullptr;
+        m_keysDirty = true;
+        if (replaced) m_map.Remove(key);
+        if (!m_map.InsertUnlessMember(key, value)) return false;
+        if (replaced) SendRemove(key);
+        SendInsert(key);
+        m_touched.Touch(key);
+        return true;
+    }
     /// Whether something went.
     bool Remove(cow_String const& given) {
         cow_String const key = given;  // the caller's may live in the node that goes
@@ -131,18 +143,6 @@ protected:
 
 private:
     static cls_FieldHandle MapField() { return cls_FieldHandle(-1, cow_String("map")); }
-
-    bool Insert(cow_String const& given, Handle const& value) {
-        cow_String const key = given;  // the caller's may live in the node that goes
-        bool const replaced = m_map.ConstFind(key) != nullptr;
-        m_keysDirty = true;
-        if (replaced) m_map.Remove(key);
-        if (!m_map.InsertUnlessMember(key, value)) return false;
-        if (replaced) SendRemove(key);
-        SendInsert(key);
-        m_touched.Touch(key);
-        return true;
-    }
 
     Tree m_map;
     cls_Uid m_uid = cls_Uid::AllocateUid();

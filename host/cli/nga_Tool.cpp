@@ -7,6 +7,7 @@
 #include "nga_Check.h"
 #include "nga_Completion.h"
 #include "nga_Console.h"
+#include "nga_DiffReport.h"
 #include "nga_Document.h"
 #include "nga_Error.h"
 #include "nga_Journal.h"
@@ -15,7 +16,11 @@
 #include "nga_Names.h"
 #include "nga_Path.h"
 #include "nga_Plot.h"
+#include "nga_Reference.h"
 #include "nga_Schema.h"
+#include "nga_Script.h"
+#include "nga_Start.h"
+#include "nga_Stubs.h"
 #include "nga_Svg.h"
 #include "nga_Tree.h"
 #include "nga_Upgrade.h"
@@ -36,6 +41,11 @@ struct Arguments {
     std::string className;
     std::string shell;
     std::string verb;
+    std::string other;
+    std::vector<double> tolerance;
+    bool script = false;
+    bool stubs = false;
+    bool markdown = false;
     bool json = false;
     bool paths = false;
     bool deep = false;
@@ -107,7 +117,7 @@ public:
         m_app.set_version_flag("--version", toolVersion);
         m_app.add_flag("-q,--quiet", m_console.quiet, "Say nothing but results and failures");
         m_app.footer(
-            "Exit codes: 0 fine, 1 findings, 2 misuse or failure.\n"
+            "Exit codes: 0 fine, 1 findings or differences, 2 misuse or failure.\n"
             "A FILE that ends in .json is read as a text, anything else as a database.\n"
             "Example:\n  nga import examples/bracket.json --into bracket.nga");
 
@@ -171,10 +181,27 @@ public:
                        "their default");
         Json(verb);
 
+        verb = Verb("diff", "List where two documents differ; exit code 1 if they do",
+                    "nga diff bracket.nga other.nga --tolerance 1e-6,1e-12", &Tool::Diff);
+        verb->add_option("A", a.file, "A database or a .json text")->required()->type_name("");
+        verb->add_option("B", a.other, "The document to compare with it")
+            ->required()
+            ->type_name("");
+        verb->add_option("--tolerance", a.tolerance,
+                         "Numbers are equal within REL times the larger magnitude, or within ABS, "
+                         "which alone helps near zero")
+            ->type_name("REL[,ABS]")
+            ->delimiter(',')
+            ->expected(1, 2)
+            ->check(CLI::NonNegativeNumber.description(""));
+        Json(verb);
+
         verb = Verb("schema", "Show one class or all, as they are registered", "nga schema Elastic",
                     &Tool::Schema);
         verb->add_option("CLASS", a.className, "Persistent name, script constructor or 0x TypeId")
             ->type_name("");
+        verb->add_flag("--markdown", a.markdown, "Reference pages, with the rules, in Markdown");
+        verb->add_flag("--stubs", a.stubs, "The type stubs of the Python module");
         Json(verb);
 
         verb = Verb("journal", "Show the change records of an import, without saving anything",
@@ -182,6 +209,7 @@ public:
         Text(verb);
         verb->add_option("--into", a.into, "The document to import into, left as it is")
             ->type_name("FILE");
+        verb->add_flag("--script", a.script, "Show the Python script that makes the same changes");
         Conflicts(verb);
         Json(verb);
 
@@ -516,10 +544,33 @@ private:
         return outcome.HasFindings() ? exitFindings : exitFine;
     }
 
+    int Diff() {
+        Document const before = Opened(m_arguments.file);
+        Document const after = Opened(m_arguments.other);
+        Tolerance tolerance;
+        if (!m_arguments.tolerance.empty()) tolerance.relative = m_arguments.tolerance[0];
+        if (m_arguments.tolerance.size() > 1) tolerance.absolute = m_arguments.tolerance[1];
+        DiffReport const report = ReportDiff(before, m_arguments.file, after, m_arguments.other,
+                                             tolerance, m_arguments.json);
+        m_console.Result(report.text);
+        if (!m_arguments.json)
+            m_console.Say(report.count == 0
+                              ? "no differences"
+                              : Counted(static_cast<std::size_t>(report.count), "difference"));
+        return report.count == 0 ? exitFine : exitFindings;
+    }
+
     int Schema() {
+        if (m_arguments.stubs) {
+            Start();
+            m_console.Result(StubText());
+            return exitFine;
+        }
         auto const classes =
             m_arguments.className.empty() ? SchemaClasses() : SchemaClasses(m_arguments.className);
-        m_console.Result(m_arguments.json ? SchemaJson(classes) : SchemaText(classes));
+        m_console.Result(m_arguments.markdown ? ReferencePage(classes)
+                         : m_arguments.json   ? SchemaJson(classes)
+                                              : SchemaText(classes));
         return exitFine;
     }
 
@@ -530,8 +581,15 @@ private:
                 ? InFile(m_arguments.file, [&] { return Document::New(NameFor(m_arguments.file)); })
                 : Opened(m_arguments.into);
         nga::Journal journal;
-        InFile(m_arguments.file,
-               [&] { ImportJson(document, text, ConflictRule(m_arguments.onConflict)); });
+        OnConflict const rule = ConflictRule(m_arguments.onConflict);
+        if (m_arguments.script) {
+            std::string const opening = ScriptOpening(document);
+            History history(document.Model());
+            InFile(m_arguments.file, [&] { ImportRecorded(document, history, text, rule); });
+            m_console.Result(ScriptText(opening, history));
+            return exitFine;
+        }
+        InFile(m_arguments.file, [&] { ImportJson(document, text, rule); });
         m_console.Result(m_arguments.json ? journal.Json() : journal.Text());
         return exitFine;
     }

@@ -8,6 +8,7 @@
 #include "kmaC_Material.h"
 #include "nga_ConnectorSection.h"
 #include "nga_HostExtension.h"
+#include "nga_TreeDifference.h"
 
 namespace nga {
 
@@ -88,6 +89,44 @@ public:
     std::function<void()> Keep(ddr_Model& model) const override {
         Repository& repository = Place::template Get<Repository>(model, Name());
         return [&repository, kept = repository] { repository = kept; };
+    }
+
+    void* Get(ddr_Model& model, cow_String const& key) const override {
+        return Place::template Get<Repository>(model, Name()).GetPtr(key);
+    }
+    bool Remove(ddr_Model& model, cow_String const& key) const override {
+        return Find(model, key) && Place::template Get<Repository>(model, Name()).Remove(key);
+    }
+    std::optional<cow_ErasedHandle> Hold(ddr_Model const& model,
+                                         cow_String const& key) const override {
+        Repository const* repository = Found(model);
+        auto const* node = repository ? repository->ConstGetMap().ConstFind(key) : nullptr;
+        if (!node) return std::nullopt;
+        return cow_ErasedHandle(node->Value(), cow_ErasedDestroy<T>);
+    }
+    void Restore(ddr_Model& model, cow_String const& key,
+                 std::optional<cow_ErasedHandle> const& held) const override {
+        if (!held) {
+            Remove(model, key);
+            return;
+        }
+        Repository& repository = Place::template Get<Repository>(model, Name());
+        auto const* node = repository.ConstGetMap().ConstFind(key);
+        if (node && node->Value().SharesWith(*held)) return;
+        repository.Insert(key, typename Repository::Handle(cow_ShareErased(), *held));
+    }
+    std::shared_ptr<void const> Snap(ddr_Model const& model) const override {
+        Repository const* repository = Found(model);
+        return repository ? std::make_shared<Repository const>(*repository) : nullptr;
+    }
+    void Compare(void const* before, void const* after, Differing const& differing) const override {
+        typename Repository::Tree const none;
+        TreeDifference<cow_String, typename Repository::Handle>(
+            before ? static_cast<Repository const*>(before)->ConstGetMap() : none,
+            after ? static_cast<Repository const*>(after)->ConstGetMap() : none)
+            .Run([&](cow_String const& key, auto const* one, auto const* other) {
+                differing(key, one ? one->GetPtr() : nullptr, other ? other->GetPtr() : nullptr);
+            });
     }
 
 private:

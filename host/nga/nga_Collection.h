@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
+#include "cow_ErasedHandle.h"
 #include "ddr_Model.h"
 #include "mdl_Description.h"
 
@@ -35,6 +37,31 @@ public:
     virtual void Insert(ddr_Model& model, cow_String const& key, void* object) const = 0;
     /// The identity of the map itself, or null while the model has not made it.
     virtual cls_Uid const* MapUid(ddr_Model const& model) const = 0;
+
+    // ---- one object ----
+    /// The object for writing: detaches, and sends the record of a modification. Only for a name
+    /// that is there.
+    virtual void* Get(ddr_Model& model, cow_String const& key) const = 0;
+    /// Whether something went.
+    virtual bool Remove(ddr_Model& model, cow_String const& key) const = 0;
+    /// A share of what stands under the name; empty where there is none.
+    virtual std::optional<cow_ErasedHandle> Hold(ddr_Model const& model,
+                                                 cow_String const& key) const = 0;
+    /// Brings back what Hold() gave: shares it, or takes the name away. Sends change records, but
+    /// none where the name has it already.
+    virtual void Restore(ddr_Model& model, cow_String const& key,
+                         std::optional<cow_ErasedHandle> const& held) const = 0;
+
+    // ---- the content at one time ----
+    /// A copy of the repository, which shares everything; null while the model has none.
+    virtual std::shared_ptr<void const> Snap(ddr_Model const& model) const = 0;
+    /// Tells where two such copies differ, in the order of the names, with null for an object that
+    /// is on one side only. What the copies share is passed over, so that the cost is that of the
+    /// differences.
+    using Differing =
+        std::function<void(cow_String const& key, void const* before, void const* after)>;
+    virtual void Compare(void const* before, void const* after,
+                         Differing const& differing) const = 0;
     /// Keeps the content as it is now, sharing it; calling the result brings it back.
     virtual std::function<void()> Keep(ddr_Model& model) const = 0;
 

@@ -92,7 +92,10 @@ private:
 
 }  // namespace
 
-std::vector<Imported> ImportJson(Document& document, std::string_view text, OnConflict onConflict) {
+namespace {
+
+std::vector<Imported> Import(Document& document, History* history, std::string_view text,
+                             OnConflict onConflict) {
     if (text.substr(0, databaseMark.size()) == databaseMark)
         throw Error("this is a database, not a text", std::string(), 0, "a JSON text");
     std::vector<Staged> staged = ReadAll(ParseJson(text));
@@ -117,9 +120,26 @@ std::vector<Imported> ImportJson(Document& document, std::string_view text, OnCo
     }
 
     Undo undo(model);
-    for (Staged& entry : staged)
-        if (entry.object) entry.collection->Insert(model, entry.key, entry.object.release());
+    for (Staged& entry : staged) {
+        if (!entry.object) continue;
+        if (history) history->Touch(*entry.collection, entry.key);
+        entry.collection->Insert(model, entry.key, entry.object.release());
+    }
     undo.Forget();
+    return report;
+}
+
+}  // namespace
+
+std::vector<Imported> ImportJson(Document& document, std::string_view text, OnConflict onConflict) {
+    return Import(document, nullptr, text, onConflict);
+}
+
+std::vector<Imported> ImportRecorded(Document& document, History& history, std::string_view text,
+                                     OnConflict onConflict) {
+    HistoryEdit edit(history);
+    std::vector<Imported> report = Import(document, &history, text, onConflict);
+    edit.Close();
     return report;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "nga_Document.h"
+#include "nga_History.h"
 
 namespace nga {
 
@@ -35,5 +36,9 @@ std::string ExportJson(Document const& document);
 /// which send their change records. An import that fails leaves the document as it was.
 std::vector<Imported> ImportJson(Document& document, std::string_view text,
                                  OnConflict onConflict = OnConflict::Error);
+
+/// The same as one step of a history.
+std::vector<Imported> ImportRecorded(Document& document, History& history, std::string_view text,
+                                     OnConflict onConflict = OnConflict::Error);
 
 }  // namespace nga

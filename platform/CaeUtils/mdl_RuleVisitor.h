@@ -29,6 +29,7 @@ class mdl_RuleVisitor {
 public:
     /// Returns whether the rule holds, so that what may be read only if it does can depend on it.
     bool Rule(bool holds, int code) {
+        Seen(code);
         if (!holds) Failed(code);
         return holds;
     }
@@ -36,6 +37,7 @@ public:
     /// The same for a rule whose text names something: the code is one of the module's content
     /// codes.
     bool ContentRule(bool holds, int code, char const* content) {
+        SeenContent(code, content);
         if (!holds) FailedContent(code, cow_String(content));
         return holds;
     }
@@ -73,6 +75,9 @@ protected:
 
     ~mdl_RuleVisitor() = default;
     virtual void Failed(int code) = 0;
+    /// Every rule that is come to, whether it holds or not: for those who list a class's rules.
+    virtual void Seen(int /*code*/) {}
+    virtual void SeenContent(int /*code*/, char const* /*content*/) {}
     /// A visitor that keeps the two tables of codes apart overrides this.
     virtual void FailedContent(int code, cow_String const& /*content*/) { Failed(code); }
     virtual void Element(void const* /*member*/, int /*index*/, ElementRules rules,

@@ -13,8 +13,8 @@ std::string const everyOption = NGA_EXAMPLES "/every_option.json";
 std::string const loadsAndSections = NGA_EXAMPLES "/loads_and_sections.json";
 std::string const zeroFactor = NGA_EXAMPLES "/zero_factor.json";
 
-std::vector<std::string> const verbs = {"new",   "import", "export",  "tree",       "show",
-                                        "check", "schema", "journal", "completion", "help"};
+std::vector<std::string> const verbs = {"new",  "import", "export",  "tree",       "show", "check",
+                                        "diff", "schema", "journal", "completion", "help"};
 
 }  // namespace
 

@@ -1,0 +1,612 @@
+"""Documents, and the views on what they hold."""
+import builtins
+import collections.abc
+import json
+import os
+import weakref
+from collections.abc import Mapping
+from typing import TYPE_CHECKING, Any, NamedTuple, TypeVar
+
+from . import _nga
+
+if TYPE_CHECKING:
+    from ._made import Document
+
+_Held = TypeVar("_Held")
+
+
+class Finding(NamedTuple):
+    """One object that breaks a rule."""
+
+    path: str
+    module: str
+    code: int
+    message: str
+    note: bool
+
+
+class Difference(NamedTuple):
+    """One place where two contents differ; MISSING stands for a side that has nothing there."""
+
+    path: str
+    before: Any
+    after: Any
+
+
+class _Missing:
+    """What a side of a difference is that has nothing in the place."""
+
+    __slots__ = ()
+
+    def __repr__(self):
+        return "MISSING"
+
+    def __bool__(self):
+        return False
+
+    def __reduce__(self):
+        return "MISSING"
+
+
+MISSING = _Missing()
+
+
+# ---- documents -----------------------------------------------------------------------------------
+
+class _Documents(collections.abc.Mapping[str, "Document"]):
+    """The open documents by name, as paths begin with it. It keeps none alive; of two with one name
+    it gives the one that was opened last."""
+
+    def __init__(self):
+        self._references = []
+
+    def _add(self, document):
+        self._references.append(weakref.ref(document, self._references.remove))
+
+    def _alive(self):
+        return [document for reference in self._references
+                if (document := reference()) is not None]
+
+    def __getitem__(self, name):
+        for document in reversed(self._alive()):
+            if document.name == name:
+                return document
+        known = [document.name for document in self._alive()]
+        raise KeyError(f"there is no open document {name!r}{_nga.near(str(name), known)}")
+
+    def __iter__(self):
+        return iter(dict.fromkeys(document.name for document in self._alive()))
+
+    def __len__(self):
+        return len({document.name for document in self._alive()})
+
+    def __repr__(self):
+        return f"<documents {list(self)}>"
+
+
+documents = _Documents()
+
+
+def _document(session: Any) -> "Document":
+    from ._made import Document
+    return Document(session)
+
+
+def new(name: str) -> "Document":
+    """A document in memory, without a file."""
+    return _document(_nga.Session.new(name))
+
+
+def open(path: str | os.PathLike[str], name: str | None = None) -> "Document":
+    """The document of a file: a database, or a text if its name ends in .json. It is named by the
+    file, or as said. Opening never writes, and a text is not written back."""
+    path = os.fspath(path)
+    if path.endswith(".json"):
+        with builtins.open(path, encoding="utf-8", errors="surrogateescape") as file:
+            text = file.read()
+        stem = os.path.splitext(os.path.basename(path))[0]
+        session = _nga.Session.from_json(name or stem, text)
+    else:
+        session = _nga.Session.open(path)
+        if name is not None:
+            session.name = name
+    # How the journal's script comes to the start.
+    session.opening = f"nga.open({path!r})" if name is None else f"nga.open({path!r}, {name!r})"
+    return _document(session)
+
+
+def from_dict(name: str, content: Mapping[str, Any]) -> "Document":
+    """A document from what to_dict() gave."""
+    session = _nga.Session.from_json(name, json.dumps(content))
+    session.opening = f"nga.documents[{name!r}]"
+    return _document(session)
+
+
+class _Edit:
+    """A group of changes that is one step to undo, and none if it fails."""
+
+    def __init__(self, session, why):
+        self._session = session
+        self._why = why
+
+    def __enter__(self):
+        self._session.open_edit(self._why)
+        return self
+
+    def __exit__(self, kind, value, trace):
+        if kind is None:
+            self._session.close_edit()
+        else:
+            self._session.roll_back()
+        return False
+
+
+class DocumentBase:
+    """A model that a script works on: objects by name in its collections. It belongs to the thread
+    that opened it. nga.new() and nga.open() make one."""
+
+    def __init__(self, session):
+        self._session = session
+        documents._add(self)
+
+    @property
+    def name(self) -> str:
+        return self._session.name
+
+    @property
+    def file(self) -> str:
+        """The file that save() writes; empty for a document without one."""
+        return self._session.file
+
+    @property
+    def path(self) -> str:
+        return self._session.path
+
+    @property
+    def collections(self):
+        """The repositories, in the order of texts."""
+        return tuple(getattr(self, name) for name in self._collections)
+
+    def save(self) -> None:
+        """Writes the file, whole or not at all."""
+        self._session.save()
+
+    def save_as(self, path: str | os.PathLike[str]) -> None:
+        """Writes another file, which becomes that of the document and names it."""
+        self._session.save_as(os.fspath(path))
+
+    # ---- time ----
+    def edit(self, why: str = "") -> _Edit:
+        """with doc.edit('why'): groups changes into one step, and takes them back if it raises."""
+        return _Edit(self._session, why)
+
+    def undo(self) -> bool:
+        """Takes the last step back; False where there is none."""
+        return self._session.undo()
+
+    def redo(self) -> bool:
+        """Does again what undo() took back; False where there is nothing."""
+        return self._session.redo()
+
+    @property
+    def undo_count(self) -> int:
+        return self._session.counts()[0]
+
+    @property
+    def redo_count(self) -> int:
+        return self._session.counts()[1]
+
+    def snapshot(self) -> _nga.Snapshot:
+        """The content as it is now, for diff(). It shares with the document and costs nothing."""
+        return self._session.snapshot()
+
+    def diff(self, before: "_nga.Snapshot | DocumentBase", *, relative: float = 0.0,
+             absolute: float = 0.0) -> list[Difference]:
+        """Where the document differs from a snapshot or another document, as a list of Difference.
+        Numbers count as equal within the larger of absolute and relative times the larger one."""
+        if isinstance(before, DocumentBase):
+            before = before.snapshot()
+        found = _nga.diff(before, self.snapshot(), self.path, relative, absolute, MISSING)
+        return [Difference(*one) for one in found]
+
+    @property
+    def journal(self) -> "Journal":
+        """What was done: the change records, and the script that does it again."""
+        return Journal(self)
+
+    # ---- rules ----
+    def findings(self, deep: bool = False) -> list[Finding]:
+        """Every object that breaks a rule, with the first rule that it breaks. With deep also, as
+        notes, what would fail if its owner asked it."""
+        return [Finding(*one) for one in self._session.findings(deep)]
+
+    def validate(self) -> None:
+        """Raises ValidationError for the first object that breaks a rule."""
+        for collection in self.collections:
+            for item in collection.values():
+                item.validate()
+
+    # ---- texts ----
+    def to_json(self) -> str:
+        """The document as JSON text."""
+        return self._session.export_json()
+
+    def import_json(self, text: str,
+                    on_conflict: str = "error") -> list[tuple[str, int, int, int]]:
+        """Puts the objects of a text into the document, as one step: all, or none. For a name that
+        is taken on_conflict decides: 'error', 'replace' or 'keep'."""
+        if on_conflict not in ("error", "replace", "keep"):
+            raise ValueError("on_conflict is 'error', 'replace' or 'keep'")
+        return self._session.import_json(text, on_conflict)
+
+    def to_dict(self) -> dict[str, Any]:
+        """The document as dictionaries and lists, as its JSON text has them."""
+        return json.loads(self.to_json())
+
+    if not TYPE_CHECKING:
+        def __getattr__(self, name):
+            if name.startswith("_"):
+                raise AttributeError(name)
+            known = [known for known in dir(type(self)) if not known.startswith("_")]
+            raise AttributeError(f"a document has no attribute {name!r}{_nga.near(name, known)}")
+
+    def __repr__(self):
+        return f"<Document {self.path}>"
+
+    def _repr_html_(self):
+        from ._html import document_html
+        return document_html(self)
+
+    def __reduce__(self):
+        return from_dict, (self.name, self.to_dict())
+
+    def __deepcopy__(self, memo):
+        return from_dict(self.name + "-copy", self.to_dict())
+
+
+class Journal(collections.abc.Sequence[tuple[Any, ...]]):
+    """The change records of a document as they were sent, oldest first, as tuples. Its script does
+    once more what was done and not undone."""
+
+    def __init__(self, document):
+        self._document = document
+
+    @property
+    def records(self) -> list[tuple[Any, ...]]:
+        return self._document._session.records(0)
+
+    @property
+    def script(self) -> str:
+        """A Python program that opens the document and makes the same changes."""
+        return self._document._session.script()
+
+    @property
+    def body(self) -> str:
+        """The script without the lines that open the document, over the variable doc."""
+        return self._document._session.script_body()
+
+    def replay(self, document: "DocumentBase") -> None:
+        """Makes the same changes to another document, as one step."""
+        import nga
+        with document.edit("replay"):
+            exec(compile(self.body, "<journal>", "exec"), {"nga": nga, "doc": document})
+
+    def __len__(self):
+        return self._document._session.record_count()
+
+    def __getitem__(self, index):
+        return self.records[index]
+
+    def __str__(self):
+        return self.script + "".join(f"# {record!r}\n" for record in self.records)
+
+    def __repr__(self):
+        return f"<journal of {self._document.path}: {len(self)} change records>"
+
+
+class Repository(collections.abc.MutableMapping[str, _Held]):
+    """The objects of one collection by name, in natural order: steel-9 before steel-10."""
+
+    __slots__ = ("_document", "_index", "_name")
+
+    def __init__(self, document, index, name):
+        self._document = document
+        self._index = index
+        self._name = name
+
+    @property
+    def name(self) -> str:
+        return self._name
+
+    @property
+    def path(self) -> str:
+        return f"{self._document.path}.{self._name}"
+
+    def __getitem__(self, name: str) -> _Held:
+        return self._document._session.entry(self._document, self._index, name)
+
+    def __setitem__(self, name, value):
+        self._document._session.put_entry(self._index, name, value)
+
+    def __delitem__(self, name):
+        self._document._session.remove_entry(self._index, name)
+
+    def __contains__(self, name):
+        return self._document._session.contains(self._index, name)
+
+    def __len__(self):
+        return self._document._session.size(self._index)
+
+    def __iter__(self):
+        return iter(self._document._session.keys(self._index))
+
+    def rename(self, old: str, new: str) -> None:
+        """Gives an object another name. Handles go by path: those of the old name end."""
+        self._document._session.rename_entry(self._index, old, new)
+
+    def __eq__(self, other):
+        if not isinstance(other, Repository):
+            return NotImplemented
+        return (self._document is other._document and self._index == other._index) or \
+            (list(self) == list(other) and all(self[name] == other[name] for name in self))
+
+    def __repr__(self):
+        return f"<{self.path}: {len(self)} object{'' if len(self) == 1 else 's'}>"
+
+    def _repr_html_(self):
+        from ._html import repository_html
+        return repository_html(self)
+
+
+# ---- objects -------------------------------------------------------------------------------------
+
+class _Class(type):
+    """Classes of the library write their help when somebody asks for it."""
+
+    @property
+    def __doc__(cls):
+        if "_facts" in vars(cls):
+            from ._help import class_help
+            return class_help(cls)
+        return vars(cls).get("_help")
+
+
+class Object(_nga.Object, metaclass=_Class):
+    __slots__ = ()
+    _help = """An object of a document, reached by its path, or one that belongs to none yet.
+
+An object of a document holds nothing: it follows its path, also behind an undo, and raises
+ReferenceError when the path leads nowhere any more."""
+    _keyed: tuple = ()
+    _type_id: int = 0
+
+    def __new__(cls, *, validate=True, **fields):
+        if "_facts" not in vars(cls):
+            raise TypeError(f"{cls.__name__} cannot be made; make one of its classes")
+        return _nga.create(cls._type_id, fields, validate)
+
+    def __init__(self, **fields):
+        pass
+
+    def setValues(self, *, validate: bool = True, **fields: Any) -> None:
+        """Sets several fields, or none if one is refused. The object is checked before anything is
+        written, unless validate is false."""
+        _nga.set_values(self, fields, validate)
+
+    def validate(self) -> None:
+        """Raises ValidationError with the first rule that the object breaks."""
+        _nga.validate(self)
+
+    def findings(self, deep: bool = False) -> list[Finding]:
+        """The objects, from this one down, that break a rule."""
+        return [Finding(*one) for one in _nga.findings(self, deep)]
+
+    @property
+    def options(self) -> "Options":
+        """The optional objects that are set, by name."""
+        return Options(self)
+
+    def sort(self, n: int, field: str | None = None) -> None:
+        """Orders the rows of the table by its last n columns, the last one first. The table's field
+        is named where the object has several."""
+        if field is None:
+            from ._classes import all_fields
+            tables = [one["script"] for one in all_fields(type(self)) if one["is_table"]]
+            if len(tables) != 1:
+                raise TypeError(f"{type(self).__name__} has {len(tables)} tables; name the field")
+            field = tables[0]
+        _nga.sort(self, field, n)
+
+    def to_dict(self) -> dict[str, Any]:
+        """The fields that are not at their defaults, as the JSON text has them."""
+        return json.loads(_nga.to_json(self))
+
+    @classmethod
+    def from_dict(cls, content: Mapping[str, Any]) -> Any:
+        """An object of no document from what to_dict() gave; nothing is checked."""
+        return _nga.from_json(cls._type_id, json.dumps(content))
+
+    def __eq__(self, other):
+        if self is other:
+            return True
+        if not isinstance(other, _nga.Object):
+            return NotImplemented
+        return _nga.same(self, other)
+
+    __hash__ = None  # type: ignore[assignment]
+
+    def __repr__(self):
+        if self.path is not None:
+            return f"<{type(self).__name__} {self.path}{'' if self.alive else ' (gone)'}>"
+        text = _nga.expression(self)
+        return text if len(text) <= 120 and "\n" not in text else \
+            f"<{type(self).__name__} of no document>"
+
+    def _repr_html_(self):
+        from ._html import object_html
+        return object_html(self)
+
+    def __copy__(self):
+        return _nga.copy(self)
+
+    def __deepcopy__(self, memo):
+        return _nga.copy(self)
+
+    def __reduce__(self):
+        return _restore, (type(self)._type_id, _nga.to_json(self))
+
+
+def _restore(type_id, text):
+    return _nga.from_json(type_id, text)
+
+
+class Options(collections.abc.Mapping[str, Any]):
+    """The optional objects of one object that are set, by name."""
+
+    __slots__ = ("_owner",)
+
+    def __init__(self, owner):
+        self._owner = owner
+
+    def __getitem__(self, name):
+        keyed = self._owner._keyed
+        found = getattr(self._owner, name) if name in keyed else None
+        if found is None:
+            why = "is not set" if name in keyed else \
+                "is none" + _nga.near(str(name), list(keyed))
+            raise KeyError(f"{self._owner.path or type(self._owner).__name__}: the option "
+                           f"{name!r} {why}")
+        return found
+
+    def __delitem__(self, name):
+        self[name]
+        delattr(self._owner, name)
+
+    def __iter__(self):
+        return (name for name in self._owner._keyed if getattr(self._owner, name) is not None)
+
+    def __len__(self):
+        return sum(1 for _ in self)
+
+    def __repr__(self):
+        return f"<options {list(self)}>"
+
+
+class ObjectList(collections.abc.MutableSequence[Any]):
+    """A list of objects in an object. Elements are reached by their places: what stands at [0] after
+    an insertion is what was inserted."""
+
+    __slots__ = ("_owner", "_field")
+
+    def __init__(self, owner, field):
+        self._owner = owner
+        self._field = field
+
+    def _place(self, index):
+        length = len(self)
+        place = index + length if index < 0 else index
+        if not 0 <= place < length:
+            raise IndexError(f"there is no element {index}: the list has {length}")
+        return place
+
+    def __len__(self):
+        return _nga.count(self._owner, self._field)
+
+    def __getitem__(self, index):
+        if isinstance(index, slice):
+            return [self[place] for place in range(*index.indices(len(self)))]
+        return _nga.element(self._owner, self._field, self._place(index))
+
+    def _elements(self):
+        # As objects of no document, since the places are about to change.
+        return _nga.value(self._owner, self._field)
+
+    def _assign(self, elements):
+        setattr(self._owner, self._field, elements)
+
+    def __setitem__(self, index, value):
+        elements = self._elements()
+        if not isinstance(index, slice):
+            index = self._place(index)
+        elements[index] = value
+        self._assign(elements)
+
+    def __delitem__(self, index):
+        elements = self._elements()
+        if not isinstance(index, slice):
+            index = self._place(index)
+        del elements[index]
+        self._assign(elements)
+
+    def insert(self, index, value):
+        elements = self._elements()
+        elements.insert(index, value)
+        self._assign(elements)
+
+    def append(self, value):
+        _nga.append(self._owner, self._field, value)
+
+    def extend(self, values):
+        self._assign(self._elements() + list(values))
+
+    def __eq__(self, other):
+        if not isinstance(other, (ObjectList, list, tuple)):
+            return NotImplemented
+        return len(self) == len(other) and all(a == b for a, b in zip(self, other))
+
+    def __repr__(self):
+        return f"[{', '.join(map(repr, self))}]"
+
+
+class FloatMap(collections.abc.MutableMapping[str, float]):
+    """A map from names to single-precision numbers in an object."""
+
+    __slots__ = ("_owner", "_field")
+
+    def __init__(self, owner, field):
+        self._owner = owner
+        self._field = field
+
+    def _values(self):
+        return _nga.value(self._owner, self._field)
+
+    def __getitem__(self, name):
+        values = self._values()
+        if name not in values:
+            raise KeyError(f"there is no entry {name!r}{_nga.near(str(name), list(values))}")
+        return values[name]
+
+    def __setitem__(self, name, value):
+        setattr(self._owner, self._field, self._values() | {name: value})
+
+    def __delitem__(self, name):
+        values = self._values()
+        del values[name]
+        setattr(self._owner, self._field, values)
+
+    def __iter__(self):
+        return iter(self._values())
+
+    def __len__(self):
+        return len(self._values())
+
+    def __repr__(self):
+        return repr(self._values())
+
+
+# ---- values --------------------------------------------------------------------------------------
+
+def empty_table(columns: int) -> Any:
+    """A table without rows that has columns nevertheless."""
+    import numpy
+    return numpy.empty((0, columns))
+
+
+def real(text: str) -> float:
+    """A number from its text in a model: "NaN:" and the bits stand for a NaN other than the usual
+    one."""
+    import struct
+    if text.startswith("NaN:"):
+        bits = text[4:]
+        return struct.unpack(">d" if len(bits) == 16 else ">f", bytes.fromhex(bits))[0]
+    return float(text)

@@ -1,0 +1,681 @@
+#include <pybind11/pybind11.h>
+#include <pybind11/stl.h>
+
+#include "cls_ClassMetadata.h"
+#include "nex_Exception.h"
+#include "nga_Check.h"
+#include "nga_Error.h"
+#include "nga_FieldLiterals.h"
+#include "nga_Fields.h"
+#include "nga_Json.h"
+#include "nga_JsonTree.h"
+#include "nga_Names.h"
+#include "nga_Path.h"
+#include "nga_Picture.h"
+#include "nga_PyField.h"
+#include "nga_Rules.h"
+#include "nga_Schema.h"
+#include "nga_Script.h"
+#include "nga_Start.h"
+#include "nga_StoreError.h"
+#include "nga_Svg.h"
+#include "nga_Tree.h"
+#include "omu_PrimValues.h"
+
+// The module _nga: documents, and what the package nga makes classes from. The package is the
+// interface that scripts see.
+
+namespace nga::python {
+
+namespace py = pybind11;
+using SessionPointer = std::shared_ptr<Session>;
+
+namespace {
+
+py::object Give(Ref&& ref) { return py::reinterpret_steal<py::object>(ref.Release()); }
+py::object Text(std::string_view text) { return Give(ToText(text)); }
+std::string From(py::handle text) {
+    if (!PyUnicode_Check(text.ptr()))
+        Fail(PyExc_TypeError, "a text is expected, not a " + TypeNameOf(text.ptr()));
+    return FromText(text.ptr());
+}
+cow_String Key(py::handle text) { return cow_String(std::string_view(From(text))); }
+Object* Handle(py::handle object) {
+    if (!IsObject(object.ptr()))
+        Fail(PyExc_TypeError,
+             "an object of the library is expected, not a " + TypeNameOf(object.ptr()));
+    return reinterpret_cast<Object*>(object.ptr());
+}
+Collection const& CollectionAt(std::size_t index) { return *Collection::All().at(index); }
+mdl_Description const& DescriptionAt(unsigned typeId) {
+    mdl_Description const* const description = mdl_Description::Find(typeId);
+    if (!description) Fail(PyExc_ValueError, "there is no class of this number");
+    return *description;
+}
+
+// ---- metadata ----------------------------------------------------------------------------------
+
+char const* KindName(mdl_FieldKind kind) {
+    constexpr char const* names[] = {"int",    "float",  "str",     "bool", "literal",
+                                     "object", "option", "options", "list", "ints",
+                                     "floats", "map",    "array"};
+    return names[static_cast<int>(kind)];
+}
+
+py::dict FieldFacts(mdl_Description const& owner, mdl_Field const& field, void const* object) {
+    mdl_FieldType const& type = field.Type();
+    py::dict facts;
+    facts["name"] = field.Name();
+    facts["script"] = field.Script();
+    facts["kind"] = KindName(type.Kind());
+    facts["held"] = type.Held() ? type.Held()->TypeId() : 0u;
+    facts["is_table"] = type.Kind() == mdl_FieldKind::Array ||
+                        (type.Kind() == mdl_FieldKind::Object && IsTable(*type.Held()));
+    py::list literals, words;
+    for (omu_EnumRow const* row = type.Rows(); row && row->literal; ++row)
+        literals.append(row->literal);
+    for (FieldLiteral const* word : LiteralsOf(owner, field))
+        words.append(py::make_tuple(word->literal, word->value));
+    facts["literals"] = literals;
+    facts["words"] = words;
+    facts["default"] = object ? Text(ScriptValue(owner, field, field.At(object))) : py::none();
+    return facts;
+}
+
+py::dict ClassFacts(mdl_Description const& description) {
+    DescribedObject const object(description.IsAbstract() ? nullptr : description.Create(),
+                                 DescribedDeleter{&description});
+    py::dict facts;
+    facts["type_id"] = description.TypeId();
+    facts["name"] = description.Name();
+    facts["constructor"] = description.Constructor();
+    facts["base"] = description.Base() ? description.Base()->TypeId() : 0u;
+    facts["abstract"] = description.IsAbstract();
+    facts["is_table"] = IsTable(description);
+    facts["module"] = description.Module() ? description.Module()->prefix : "";
+    facts["version"] = description.Version();
+    py::list fields, keyed;
+    for (mdl_Field const& field : description.Fields())
+        fields.append(FieldFacts(description, field, object.get()));
+    py::dict constructors, appended;
+    for (mdl_Field const* field : description.AllFields()) {
+        std::string const constructor = ConstructorOf(description, *field);
+        if (!constructor.empty()) constructors[field->Script()] = constructor;
+        for (mdl_Description const* made : ClassesToAppend(description, *field))
+            appended[py::int_(made->TypeId())] = field->Script();
+        if (FieldStep(description, *field)[1] == 'o' &&
+            FieldStep(description, *field).rfind(".options[", 0) == 0)
+            keyed.append(field->Script());
+    }
+    facts["fields"] = fields;
+    facts["constructors"] = constructors;
+    facts["appended"] = appended;
+    facts["keyed"] = keyed;
+    return facts;
+}
+
+py::list Classes() {
+    py::list classes;
+    for (cls_ClassMetadata const* metadata : SchemaClasses())
+        if (mdl_Description const* description = mdl_Description::Find(metadata->TypeId()))
+            classes.append(ClassFacts(*description));
+    return classes;
+}
+
+py::list Collections() {
+    py::list collections;
+    for (Collection const* collection : Collection::All()) {
+        py::list held;
+        for (NamedClass const& named : ClassesBelow(collection->Held()))
+            held.append(named.description->TypeId());
+        collections.append(py::make_tuple(collection->Name(), collection->Held().TypeId(), held));
+    }
+    return collections;
+}
+
+py::list Rules(unsigned typeId) {
+    py::list rules;
+    for (ListedRule const& rule : RulesOf(DescriptionAt(typeId)))
+        rules.append(py::make_tuple(rule.module, rule.code, Text(rule.message)));
+    return rules;
+}
+
+// ---- documents ---------------------------------------------------------------------------------
+
+py::list Findings(std::vector<Finding> const& findings) {
+    py::list list;
+    for (Finding const& finding : findings)
+        list.append(py::make_tuple(Text(ScriptPath(finding.path)), finding.module, finding.code,
+                                   Text(finding.message), finding.note));
+    return list;
+}
+
+void RequireKey(Session& session, Collection const& collection, std::string const& key) {
+    RequireName(key, DocumentPath(session.document) + "." + collection.Name());
+    int const code = collection.CodeOfName(key);
+    if (code < 0) return;
+    mdl_Module const& module = *collection.Held().Module();
+    std::string const message(module.errorText(code).View());
+    std::string const path = EntryPath(DocumentPath(session.document), collection, key);
+    py::dict attributes;
+    attributes["message"] = Text(message);
+    attributes["path"] = Text(ScriptPath(path));
+    attributes["module"] = module.prefix;
+    attributes["code"] = code;
+    attributes["file"] = "";
+    attributes["line"] = 0;
+    FailWith(exceptions.validationError, ScriptPath(path) + ": " + message, attributes.ptr());
+}
+
+[[noreturn]] void RaiseNoKey(Session& session, Collection const& collection,
+                             std::string const& key) {
+    std::vector<std::string> known;
+    // So many names are no typing mistake's choice, and looking through them is slow.
+    if (collection.Size(session.document.Model()) <= 10000)
+        collection.Each(session.document.Model(), [&](cow_String const& name, void const*) {
+            known.emplace_back(name.View());
+        });
+    Fail(PyExc_KeyError, DocumentPath(session.document) + "." + collection.Name() +
+                             ": there is no entry " + Quoted(key) + DidYouMean(key, known));
+}
+
+py::object Entry(SessionPointer const& session, py::handle document, std::size_t index,
+                 py::handle name) {
+    std::string const key = From(name);
+    Ref object =
+        RootObject(session, document.ptr(), CollectionAt(index), cow_String(std::string_view(key)));
+    if (!object) RaiseNoKey(*session, CollectionAt(index), key);
+    return Give(std::move(object));
+}
+
+void Insert(Session& session, Collection const& collection, cow_String const& key,
+            DescribedObject object) {
+    Writing writing(session);
+    writing.Touch(collection, key);
+    collection.Insert(session.document.Model(), key, object.release());
+    writing.Close();
+}
+
+py::object MakeEntry(SessionPointer const& session, py::handle document, std::size_t index,
+                     unsigned typeId, py::handle name, py::dict fields, bool validate) {
+    session->Enter();
+    Collection const& collection = CollectionAt(index);
+    std::string const key = From(name);
+    std::string const path =
+        ScriptPath(EntryPath(DocumentPath(session->document), collection, key));
+    RequireKey(*session, collection, key);
+    if (collection.Find(session->document.Model(), cow_String(std::string_view(key))))
+        Fail(PyExc_ValueError, path +
+                                   ": there is an object of this name already; assign to it "
+                                   "to replace it");
+    Insert(*session, collection, cow_String(std::string_view(key)),
+           MakeObject(DescriptionAt(typeId), fields.ptr(), validate, path));
+    return Entry(session, document, index, name);
+}
+
+void PutEntry(SessionPointer const& session, std::size_t index, py::handle name,
+              py::handle object) {
+    session->Enter();
+    Collection const& collection = CollectionAt(index);
+    std::string const key = From(name);
+    RequireKey(*session, collection, key);
+    Object* const source = Handle(object);
+    mdl_Description const* const description = source->state.description;
+    mdl_Description const* level = description;
+    while (level && level != &collection.Held()) level = level->Base();
+    if (!level)
+        Fail(PyExc_TypeError,
+             std::string(".") + collection.Name() + " holds no " + TypeNameOf(object.ptr()));
+    Insert(*session, collection, cow_String(std::string_view(key)),
+           DescribedObject(description->Copy(Resolve(source)), DescribedDeleter{description}));
+}
+
+void RemoveEntry(Session& session, std::size_t index, py::handle name) {
+    session.Enter();
+    Collection const& collection = CollectionAt(index);
+    cow_String const key = Key(name);
+    if (!collection.Find(session.document.Model(), key))
+        RaiseNoKey(session, collection, std::string(key.View()));
+    Writing writing(session);
+    writing.Touch(collection, key);
+    collection.Remove(session.document.Model(), key);
+    writing.Close();
+}
+
+void RenameEntry(Session& session, std::size_t index, py::handle from, py::handle to) {
+    session.Enter();
+    Collection const& collection = CollectionAt(index);
+    cow_String const old = Key(from), fresh = Key(to);
+    ddr_Model& model = session.document.Model();
+    auto const held = collection.Hold(model, old);
+    if (!held) RaiseNoKey(session, collection, std::string(old.View()));
+    RequireKey(session, collection, std::string(fresh.View()));
+    if (old == fresh) return;
+    if (collection.Find(model, fresh))
+        Fail(PyExc_ValueError,
+             ScriptPath(EntryPath(DocumentPath(session.document), collection, fresh.View())) +
+                 ": there is an object of this name already");
+    Writing writing(session);
+    writing.Touch(collection, old);
+    writing.Touch(collection, fresh);
+    collection.Remove(model, old);
+    collection.Restore(model, fresh, held);
+    writing.Close();
+}
+
+py::list Keys(Session& session, std::size_t index) {
+    session.Enter();
+    py::list keys;
+    CollectionAt(index).Each(session.document.Model(), [&](cow_String const& key, void const*) {
+        keys.append(Text(key.View()));
+    });
+    return keys;
+}
+
+py::list Import(Session& session, py::handle given, std::string const& onConflict) {
+    session.Enter();
+    std::string const text = From(given);
+    OnConflict const rule = onConflict == "replace" ? OnConflict::Replace
+                            : onConflict == "keep"  ? OnConflict::Keep
+                                                    : OnConflict::Error;
+    Recording const recording(session);
+    ++session.stamp;
+    py::list report;
+    for (Imported const& line : ImportRecorded(session.document, session.history, text, rule))
+        report.append(py::make_tuple(line.collection, line.added, line.replaced, line.kept));
+    return report;
+}
+
+/// A change record as the tuple that it is.
+class TupleOfPrimitive final : public omu_PrimVisitor {
+public:
+    py::object result;
+    void Visit(omu_PrimEnumBase const& value) override { result = Text(value.GetString()); }
+    void Visit(omu_PrimInt const& value) override { result = py::int_(value.Value()); }
+    void Visit(omu_PrimDouble const& value) override { result = py::float_(value.Value()); }
+    void Visit(omu_PrimString const& value) override { result = Text(value.Value().View()); }
+    void Visit(omu_PrimTuple const& value) override {
+        py::tuple tuple(static_cast<std::size_t>(value.Size()));
+        for (int i = 0; i < value.Size(); ++i) {
+            TupleOfPrimitive member;
+            value.Get(i).Accept(&member);
+            tuple[static_cast<std::size_t>(i)] = member.result;
+        }
+        result = tuple;
+    }
+};
+
+py::list Records(Session& session, std::size_t from) {
+    session.Enter();
+    py::list records;
+    for (std::size_t i = from; i < session.records.size(); ++i) {
+        ChangeRecord const& record = session.records[i];
+        if (record.whole) {
+            TupleOfPrimitive visitor;
+            record.whole->Accept(&visitor);
+            records.append(visitor.result);
+        } else if (record.hasMark) {
+            records.append(py::make_tuple(record.what, Text(record.key.View()), record.mark));
+        } else {
+            records.append(py::make_tuple(record.what, Text(record.key.View())));
+        }
+    }
+    return records;
+}
+
+/// A snapshot with the thread that its counts belong to.
+struct KeptSnapshot {
+    explicit KeptSnapshot(Session& session)
+        : snapshot((session.Enter(), session.document.Model())) {}
+    Snapshot snapshot;
+    unsigned long thread = PyThread_get_thread_ident();
+};
+
+py::object SideOf(DiffValue const& value, py::handle missing) {
+    switch (value.what) {
+        case DiffValue::What::Missing:
+            return py::reinterpret_borrow<py::object>(missing);
+        case DiffValue::What::Object:
+            return Give(CopyOf(*value.description, value.at));
+        case DiffValue::What::Field: {
+            Ref const name = ToText(value.field->Script());
+            return Give(ValueOf(&FieldOf(*value.description, name.Get()), value.at));
+        }
+        case DiffValue::What::Real:
+            return py::float_(value.real);
+        case DiffValue::What::Integer:
+            return py::int_(value.integer);
+    }
+    return py::none();
+}
+
+py::list DiffOf(KeptSnapshot const& before, KeptSnapshot const& after, std::string const& root,
+                double relative, double absolute, py::handle missing) {
+    if (before.thread != PyThread_get_thread_ident() || after.thread != before.thread)
+        Fail(PyExc_RuntimeError, "a snapshot belongs to the thread that took it");
+    py::list list;
+    Diff(before.snapshot, after.snapshot, root, {relative, absolute},
+         [&](Difference const& difference) {
+             list.append(py::make_tuple(Text(ScriptPath(difference.path)),
+                                        SideOf(difference.before, missing),
+                                        SideOf(difference.after, missing)));
+         });
+    return list;
+}
+
+// ---- objects -----------------------------------------------------------------------------------
+
+py::object Create(unsigned typeId, py::dict fields, bool validate) {
+    mdl_Description const& description = DescriptionAt(typeId);
+    return Give(OwnedObject(
+        MakeObject(description, fields.ptr(), validate,
+                   description.Constructor() ? description.Constructor() : description.Name())));
+}
+
+py::object MakeIn(py::handle owner, std::string const& script, unsigned typeId, py::dict fields,
+                  bool validate) {
+    Object* const object = Handle(owner);
+    Resolve(object);
+    mdl_Field const& field = DescribedFieldOf(*object->state.description, script);
+    std::string path = PathOf(object) + FieldStep(*object->state.description, field);
+    if (field.Type().Kind() != mdl_FieldKind::Option) path += IndexStep(CountOf(object, script));
+    return Give(
+        Put(object, script, MakeObject(DescriptionAt(typeId), fields.ptr(), validate, path)));
+}
+
+py::object ToJson(py::handle handle) {
+    Object* const object = Handle(handle);
+    mdl_Description const& description = *object->state.description;
+    JsonWriter writer;
+    Defaults defaults;
+    WriteObject(writer, defaults, description, description, Resolve(object),
+                defaults.Of(description));
+    return Text(writer.TakeValue());
+}
+
+py::object FromJson(unsigned typeId, py::handle text) {
+    mdl_Description const& description = DescriptionAt(typeId);
+    return Give(OwnedObject(ReadObject(ParseJson(From(text)), JsonPlace(), description)));
+}
+
+bool Same(py::handle a, py::handle b) {
+    Object *const one = Handle(a), *const other = Handle(b);
+    return one->state.description == other->state.description &&
+           one->state.description->Same(Resolve(one), Resolve(other));
+}
+
+py::object FieldJson(py::handle handle, std::string const& script) {
+    Object* const object = Handle(handle);
+    mdl_Field const& field = DescribedFieldOf(*object->state.description, script);
+    void const* const at = field.At(Resolve(object));
+    return Text(ValueText(field, at));
+}
+
+/// The names of the fields that are not at their defaults.
+py::list Changed(py::handle handle) {
+    Object* const object = Handle(handle);
+    mdl_Description const& description = *object->state.description;
+    void const* const at = Resolve(object);
+    DescribedObject const usual(description.Create(), DescribedDeleter{&description});
+    py::list names;
+    for (mdl_Field const* field : description.AllFields())
+        if (!field->Type().Same(field->At(at), field->At(static_cast<void const*>(usual.get()))))
+            names.append(field->Script());
+    return names;
+}
+
+void MakeExceptions(py::module_& module) {
+    auto const make = [&](char const* name, py::tuple const& bases, char const* doc) {
+        Ref made(PyErr_NewExceptionWithDoc((std::string("nga.") + name).c_str(), doc, bases.ptr(),
+                                           nullptr));
+        module.attr(name) = py::reinterpret_borrow<py::object>(made.Get());
+        return made.Release();
+    };
+    auto const base = [](PyObject* type) { return py::reinterpret_borrow<py::object>(type); };
+    exceptions.error =
+        make("Error", py::make_tuple(base(PyExc_ValueError)),
+             "What the library cannot do, with message, place, line and what was expected.");
+    exceptions.storeError = make("StoreError", py::make_tuple(base(PyExc_OSError)),
+                                 "What is wrong with a file: its path and the cause.");
+    exceptions.validationError =
+        make("ValidationError", py::make_tuple(base(PyExc_ValueError)),
+             "A broken rule: message, code, module, path of the object, file and line.");
+}
+
+void DefineSession(py::module_& module) {
+    py::class_<KeptSnapshot>(module, "Snapshot");
+    py::class_<Session, SessionPointer>(module, "Session")
+        .def_static(
+            "new",
+            [](py::handle name) { return std::make_shared<Session>(Document::New(From(name))); })
+        .def_static(
+            "open",
+            [](py::handle path) { return std::make_shared<Session>(Document::Open(From(path))); })
+        .def_static("from_json",
+                    [](py::handle name, py::handle text) {
+                        Document document = Document::New(From(name));
+                        ImportJson(document, From(text));
+                        return std::make_shared<Session>(std::move(document));
+                    })
+        .def_property(
+            "name", [](Session& s) { return Text(s.document.Name()); },
+            [](Session& s, py::handle name) {
+                s.Enter();
+                RequireName(From(name), "the document");
+                s.document.Model().Rename(Key(name));
+            })
+        .def_property_readonly("file", [](Session& s) { return Text(s.document.File()); })
+        .def_property_readonly(
+            "path", [](Session& s) { return Text(ScriptPath(DocumentPath(s.document))); })
+        .def_property(
+            "opening", [](Session& s) { return Text(s.opening); },
+            [](Session& s, py::handle opening) { s.opening = From(opening); })
+        .def("enter", [](Session& s) { s.Enter(); })
+        .def("save",
+             [](Session& s) {
+                 s.Enter();
+                 ++s.stamp;
+                 s.document.Save();
+             })
+        .def("save_as",
+             [](Session& s, py::handle path) {
+                 s.Enter();
+                 ++s.stamp;
+                 s.document.SaveAs(From(path));
+             })
+        .def("undo",
+             [](Session& s) {
+                 s.Enter();
+                 Recording const recording(s);
+                 ++s.stamp;
+                 return s.history.Undo();
+             })
+        .def("redo",
+             [](Session& s) {
+                 s.Enter();
+                 Recording const recording(s);
+                 ++s.stamp;
+                 return s.history.Redo();
+             })
+        .def(
+            "counts",
+            [](Session& s) { return py::make_tuple(s.history.UndoCount(), s.history.RedoCount()); })
+        .def("reasons",
+             [](Session& s) {
+                 return py::make_tuple(Text(s.history.NextUndo()), Text(s.history.NextRedo()));
+             })
+        .def("open_edit",
+             [](Session& s, py::handle why) {
+                 s.Enter();
+                 s.history.Open(From(why));
+             })
+        .def("close_edit",
+             [](Session& s) {
+                 s.Enter();
+                 s.history.Close();
+             })
+        .def("roll_back",
+             [](Session& s) {
+                 s.Enter();
+                 Recording const recording(s);
+                 ++s.stamp;
+                 s.history.RollBack();
+             })
+        .def("snapshot", [](Session& s) { return std::make_unique<KeptSnapshot>(s); })
+        .def("findings",
+             [](Session& s, bool deep) {
+                 s.Enter();
+                 return Findings(Check(s.document, deep ? CheckDepth::All : CheckDepth::Asked));
+             })
+        .def("export_json",
+             [](Session& s) {
+                 s.Enter();
+                 return Text(ExportJson(s.document));
+             })
+        .def("import_json", Import)
+        .def("records", Records)
+        .def("record_count", [](Session& s) { return s.records.size(); })
+        .def("script",
+             [](Session& s) {
+                 s.Enter();
+                 return Text(ScriptText(s.opening, s.history));
+             })
+        .def("script_body",
+             [](Session& s) {
+                 s.Enter();
+                 return Text(ScriptBody(s.history));
+             })
+        .def("size",
+             [](Session& s, std::size_t index) {
+                 s.Enter();
+                 return CollectionAt(index).Size(s.document.Model());
+             })
+        .def("contains",
+             [](Session& s, std::size_t index, py::handle name) {
+                 s.Enter();
+                 return PyUnicode_Check(name.ptr()) &&
+                        CollectionAt(index).Find(s.document.Model(), Key(name)) != nullptr;
+             })
+        .def("keys", Keys)
+        .def("entry", [](SessionPointer const& s, py::handle document, std::size_t index,
+                         py::handle name) { return Entry(s, document, index, name); })
+        .def("make_entry", MakeEntry)
+        .def("put_entry", PutEntry)
+        .def("remove_entry", RemoveEntry)
+        .def("rename_entry", RenameEntry);
+}
+
+void DefineObjects(py::module_& module) {
+    module.def("create", Create);
+    module.def("set_values", [](py::handle object, py::dict fields, bool validate) {
+        SetValues(Handle(object), fields.ptr(), validate);
+    });
+    module.def("make_in", MakeIn);
+    module.def("count", [](py::handle owner, std::string const& script) {
+        return CountOf(Handle(owner), script);
+    });
+    module.def("element", [](py::handle owner, std::string const& script, int index) {
+        return Give(ElementOf(Handle(owner), script, index));
+    });
+    module.def("append", [](py::handle owner, py::handle name, py::handle element) {
+        // The field's own checks, for one element.
+        Object *const object = Handle(owner), *const source = Handle(element);
+        mdl_Field const& field = DescribedFieldOf(*object->state.description, From(name));
+        mdl_Description const* const description = source->state.description;
+        mdl_Description const* level = description;
+        while (level && level != field.Type().Held()) level = level->Base();
+        if (!level)
+            Fail(PyExc_TypeError,
+                 std::string(field.Script()) + " holds no " + TypeNameOf(element.ptr()));
+        DescribedObject copy(description->Copy(Resolve(source)), DescribedDeleter{description});
+        return Give(Put(object, From(name), std::move(copy)));
+    });
+    module.def("value", [](py::handle owner, py::handle name) {
+        Object* const object = Handle(owner);
+        Field& field = FieldOf(*object->state.description, name.ptr());
+        mdl_Field const& described = DescribedFieldOf(*object->state.description, From(name));
+        return Give(ValueOf(&field, described.At(Resolve(object))));
+    });
+    module.def("sort", [](py::handle object, std::string const& script, int columns) {
+        SortTable(Handle(object), script, columns);
+    });
+    module.def("validate", [](py::handle handle) {
+        Object* const object = Handle(handle);
+        RequireValid(*object->state.description, Resolve(object), PathOf(object));
+    });
+    module.def("findings", [](py::handle handle, bool deep) {
+        Object* const object = Handle(handle);
+        return Findings(Check(*object->state.description, Resolve(object), PathOf(object),
+                              deep ? CheckDepth::All : CheckDepth::Asked));
+    });
+    module.def("to_json", ToJson);
+    module.def("from_json", FromJson);
+    module.def("same", Same);
+    module.def("field_text", FieldJson);
+    module.def("changed", Changed);
+    module.def("svg", [](py::handle handle) -> py::object {
+        Object* const object = Handle(handle);
+        Selection selection;
+        selection.what = Selection::What::Object;
+        selection.object = Resolve(object);
+        selection.description = object->state.description;
+        selection.path = PathOf(object);
+        if (!MayHavePicture(selection)) return py::none();
+        Picture const picture = PictureOf(selection);
+        return picture.none.empty() ? Text(SvgText(picture)) : py::none();
+    });
+    module.def("copy", [](py::handle handle) {
+        Object* const object = Handle(handle);
+        return Give(CopyOf(*object->state.description, Resolve(object)));
+    });
+    module.def("expression", [](py::handle handle) {
+        Object* const object = Handle(handle);
+        return Text(ScriptObject(*object->state.description, Resolve(object)));
+    });
+    module.def("near", [](std::string const& given, std::vector<std::string> const& known) {
+        return DidYouMean(given, known);
+    });
+}
+
+}  // namespace
+
+PYBIND11_MODULE(_nga, module) {
+    py::register_exception_translator([](std::exception_ptr failure) {
+        try {
+            std::rethrow_exception(failure);
+        } catch (Failure const&) {
+            // Python knows already.
+        } catch (nex_Exception const&) {
+            Translate(failure);
+        } catch (StoreError const&) {
+            Translate(failure);
+        } catch (Error const&) {
+            Translate(failure);
+        }
+    });
+    try {
+        Start();
+        MakeExceptions(module);
+        module.attr("Object") = py::handle(reinterpret_cast<PyObject*>(MakeObjectType()));
+        module.attr("Field") = py::handle(reinterpret_cast<PyObject*>(MakeFieldType()));
+    } catch (Failure const&) {
+        throw py::error_already_set();
+    }
+    module.def("classes", Classes);
+    module.def("collections", Collections);
+    module.def("rules", Rules);
+    module.def("register_class", [](unsigned typeId, py::handle type) {
+        RegisterClass(typeId, reinterpret_cast<PyTypeObject*>(type.ptr()));
+    });
+    module.def("make_field", [](unsigned typeId, std::string const& script, py::tuple literals,
+                                py::tuple words) {
+        return Give(MakeField(DescriptionAt(typeId), script, literals.ptr(), words.ptr()));
+    });
+    module.def("set_views",
+               [](py::handle list, py::handle map) { SetViews(list.ptr(), map.ptr()); });
+    module.def("diff", DiffOf);
+    DefineSession(module);
+    DefineObjects(module);
+}
+
+}  // namespace nga::python

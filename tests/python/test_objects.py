@@ -1,0 +1,319 @@
+import copy
+import pickle
+
+import pytest
+
+import nga
+
+
+@pytest.fixture
+def steel(doc):
+    return doc.Material(name="steel")
+
+
+def test_options_are_reached_by_key_and_by_attribute(steel):
+    assert steel.elastic is None
+    with pytest.raises(KeyError, match="is not set"):
+        steel.options["elastic"]
+    with pytest.raises(KeyError, match="did you mean 'elastic'"):
+        steel.options["elstic"]
+    elastic = steel.Elastic(table=((210e3, 0.3),))
+    assert steel.options["elastic"] is elastic and steel.elastic is elastic
+    assert list(steel.options) == ["elastic"] and len(steel.options) == 1
+    assert "elastic" in steel.options and "plastic" not in steel.options
+    del steel.options["elastic"]
+    assert steel.elastic is None
+
+
+def test_a_class_in_one_member_has_a_constructor_of_its_name(steel):
+    steel.Elastic(table=((210e3, 0.3),))
+    stress = steel.elastic.FailStress(table=((1.0, 2.0, 3.0, 4.0, 5.0),))
+    assert type(stress) is nga.FailStress
+    assert stress.path == ("documents['bench'].materials['steel'].options['elastic']"
+                           ".options['failStress']")
+
+
+def test_a_class_in_several_members_has_one_constructor_a_member(steel):
+    made = steel.DuctileDamageInitiation(table=((0.1, 0.2, 0.3),))
+    assert made is steel.ductileDamageInitiation
+    assert type(made) is nga.DuctileDamageInitiation if hasattr(nga, "DuctileDamageInitiation") \
+        else type(made).__name__ == "DamageInitiation"
+    assert steel.shearDamageInitiation is None
+
+
+def test_a_failing_constructor_leaves_everything_as_it_was(doc, steel):
+    steps, records = doc.undo_count, len(doc.journal)
+    text = doc.to_json()
+    for failing, kind in (
+            (lambda: steel.Elastic(table="x"), TypeError),
+            (lambda: steel.Elastic(tabel=()), (AttributeError, TypeError)),
+            (lambda: steel.Elastic(type="ISO"), ValueError),
+            (lambda: steel.Elastic(noCompression=True, noTension=True), nga.ValidationError),
+            (lambda: doc.Material(name="iron", elastik=None), (AttributeError, TypeError)),
+            (lambda: doc.LoadCase(name="a", loads={"x": 0.0}), nga.ValidationError)):
+        with pytest.raises(kind):
+            failing()
+    assert doc.to_json() == text
+    assert (doc.undo_count, len(doc.journal)) == (steps, records)
+
+
+def test_set_values_sets_all_or_nothing(doc, steel):
+    elastic = steel.Elastic(table=((210e3, 0.3),))
+    steps, records = doc.undo_count, len(doc.journal)
+    with pytest.raises(TypeError):
+        elastic.setValues(type=nga.LAMINA, dependencies="two")
+    with pytest.raises(nga.ValidationError) as failure:
+        elastic.setValues(type=nga.LAMINA, noCompression=True, noTension=True)
+    assert elastic.type is nga.ISOTROPIC and elastic.noCompression is False
+    assert (doc.undo_count, len(doc.journal)) == (steps, records)
+    assert failure.value.path == elastic.path
+    assert (failure.value.module, failure.value.code) == ("kma", 34)
+    assert failure.value.message.startswith("No compression and No tension")
+    assert failure.value.file == "generated/module/kma/com/impl/kmaC_assert"
+    assert failure.value.line > 0
+    assert isinstance(failure.value, ValueError)
+    elastic.setValues(noCompression=True, noTension=True, validate=False)
+    with pytest.raises(nga.ValidationError):
+        elastic.validate()
+    assert doc.undo_count == steps + 1
+    elastic.setValues(noTension=False)
+    elastic.validate()
+
+
+def test_a_rule_of_an_inner_object_is_told_with_its_own_path(steel):
+    with pytest.raises(nga.ValidationError) as failure:
+        steel.setValues(density=nga.Density(table=((1.0,), (0.0,)), validate=False))
+    assert failure.value.path.endswith(".materials['steel'].options['density'].table")
+    assert steel.density is None
+
+
+def test_assignment_does_not_ask_the_rules(steel):
+    elastic = steel.Elastic(table=((210e3, 0.3),))
+    elastic.noCompression = True
+    elastic.noTension = True
+    assert elastic.findings()[0].code == 34
+
+
+def test_an_unknown_field_names_near_ones(steel):
+    elastic = steel.Elastic(table=((210e3, 0.3),))
+    for use in (lambda: elastic.modulii, lambda: setattr(elastic, "modulii", 1),
+                lambda: elastic.setValues(modulii=1), lambda: nga.Elastic(modulii=1)):
+        with pytest.raises((AttributeError, TypeError), match="did you mean 'moduli'"):
+            use()
+
+
+def test_numbers_are_taken_as_python_has_them(steel):
+    import numpy
+    elastic = steel.Elastic(table=((1, 2.5), (numpy.float32(3), numpy.int64(4))))
+    assert elastic.table.tolist() == [[1.0, 2.5], [3.0, 4.0]]
+    elastic.dependencies = numpy.int32(2)
+    assert elastic.dependencies == 2 and type(elastic.dependencies) is int
+    elastic.noTension = numpy.bool_(True)
+    assert elastic.noTension is True
+    for wrong in (True, 1.0, "1", numpy.float64(1), None.__class__):
+        with pytest.raises(TypeError):
+            elastic.dependencies = wrong
+    for beyond in (2**31, -2**31 - 1, 10**30):
+        with pytest.raises(ValueError, match="out of range"):
+            elastic.dependencies = beyond
+    assert elastic.dependencies == 2
+
+
+def test_values_that_run_python_code_do_no_harm(steel):
+    elastic = steel.Elastic(table=((1.0, 2.0),))
+    rows = [[1.0, 2.0], [3.0, 4.0]]
+
+    class Clears:
+        def __float__(self):
+            rows.clear()
+            steel.elastic = None
+            return 5.0
+
+    rows[0][0] = Clears()
+    with pytest.raises(ReferenceError):
+        elastic.table = rows
+    steel.Elastic(table=((1.0, 2.0),))
+
+    class Fails:
+        def __float__(self):
+            raise ZeroDivisionError
+
+    with pytest.raises(ZeroDivisionError):
+        elastic.table = ((Fails(), 1.0),)
+    with pytest.raises(ValueError, match="out of range"):
+        elastic.table = ((10**400, 1.0),)
+    assert elastic.table.tolist() == [[1.0, 2.0]]
+
+    class Pairs(dict):
+        def items(self):
+            return [5]
+
+    case = steel.document.LoadCase(name="a")
+    for wrong in (Pairs(), 5, "wind", ["wind"]):
+        with pytest.raises(TypeError):
+            case.loads = wrong
+
+
+def test_a_long_list_is_walked_with_all_its_handles_kept(steel):
+    mullins = steel.MullinsEffect(validate=False)
+    mullins.uniaxialTests = [nga.UniaxialTestData(table=((float(i), 1.0),)) for i in range(5000)]
+    kept = list(mullins.uniaxialTests)
+    assert kept[4321].table[0, 0] == 4321.0
+    assert kept[4321] is mullins.uniaxialTests[4321]
+
+
+def test_a_number_that_is_not_set_is_none_or_its_literal(steel):
+    hyper = nga.Hyperelastic(validate=False)
+    assert hyper.beta is nga.FITTED_VALUE
+    hyper.beta = 0.5
+    assert hyper.beta == 0.5
+    hyper.beta = nga.FITTED_VALUE
+    assert hyper.to_dict() == {}
+    with pytest.raises(ValueError, match="FITTED_VALUE"):
+        hyper.beta = "FITED"
+
+
+def test_literals_are_texts_that_print_as_themselves():
+    assert repr(nga.ISOTROPIC) == str(nga.ISOTROPIC) == f"{nga.ISOTROPIC}" == "ISOTROPIC"
+    assert nga.ISOTROPIC == "ISOTROPIC"
+    assert pickle.loads(pickle.dumps(nga.ISOTROPIC)) is nga.ISOTROPIC
+    assert copy.deepcopy(nga.ISOTROPIC) is nga.ISOTROPIC
+
+
+def test_a_handle_follows_its_path_and_tells_when_it_has_gone(doc, steel):
+    elastic = steel.Elastic(table=((210e3, 0.3),))
+    path = elastic.path
+    doc.undo()
+    with pytest.raises(ReferenceError) as failure:
+        elastic.type
+    assert path in str(failure.value)
+    assert not elastic.alive and repr(elastic) == f"<Elastic {path} (gone)>"
+    for use in (lambda: setattr(elastic, "type", nga.LAMINA), lambda: elastic.validate(),
+                lambda: elastic.setValues(type=nga.LAMINA), lambda: elastic.table,
+                lambda: elastic.FailStress(validate=False), lambda: elastic.to_dict()):
+        with pytest.raises(ReferenceError):
+            use()
+    doc.redo()
+    assert elastic.alive and elastic.table[0, 1] == 0.3
+    doc.materials.rename("steel", "iron")
+    assert not elastic.alive and not steel.alive
+    doc.materials.rename("iron", "steel")
+    assert elastic.alive
+    del doc.materials["steel"]
+    with pytest.raises(ReferenceError):
+        steel.description
+
+
+def test_a_handle_does_not_pass_to_an_object_of_another_class(doc):
+    tabular = doc.TabularAmplitude(name="a", data=((0.0, 0.0), (1.0, 1.0)))
+    doc.amplitudes["a"] = nga.Decay(maximum=1.0, validate=False) if hasattr(nga, "Decay") else \
+        nga.DecayAmplitude(validate=False)
+    with pytest.raises(ReferenceError, match="another object"):
+        tabular.data
+
+
+def test_one_object_has_one_handle(doc, steel):
+    steel.Elastic(table=((210e3, 0.3),))
+    assert doc.materials["steel"] is steel
+    assert steel.elastic is doc.materials["steel"].options["elastic"]
+
+
+def test_lists_of_objects_are_lists(steel):
+    mullins = steel.MullinsEffect(validate=False)
+    tests = mullins.uniaxialTests
+    assert len(tests) == 0
+    one, two = nga.UniaxialTestData(table=((1.0, 2.0),)), nga.UniaxialTestData(table=((3.0, 4.0),))
+    tests.append(one)
+    tests.insert(0, two)
+    tests.extend([one])
+    assert tests == [two, one, one]
+    assert tests[0].path == mullins.path + ".uniaxialTests[0]"
+    assert tests[-1] is tests[2]
+    first = tests[0]
+    del tests[0]
+    assert first == one  # what stands in its place now
+    tests[1] = two
+    assert [*tests] == [one, two]
+    tests[:] = []
+    assert len(tests) == 0 and not first.alive
+    with pytest.raises(IndexError):
+        tests[0]
+    with pytest.raises(TypeError):
+        tests.append(5)
+    with pytest.raises(TypeError):
+        mullins.uniaxialTests = [one, 5]
+    assert len(tests) == 0
+
+
+def test_a_list_of_an_abstract_class_has_a_constructor_for_each_class(doc):
+    hinge = doc.ConnectorSection(name="hinge")
+    elasticity = hinge.ConnectorElasticity(validate=False)
+    damping = hinge.ConnectorDamping(validate=False)
+    assert list(hinge.options) == [elasticity, damping]
+    assert hinge.options[1] is damping
+    assert damping.path == "documents['bench'].sections['hinge'].options[1]"
+    assert not hasattr(nga.MullinsEffect, "UniaxialTestData")  # three lists could be meant
+
+
+def test_a_number_with_a_literal_takes_and_gives_it(doc):
+    lock = nga.ConnectorLock(validate=False)
+    lock.lockingComponent = nga.ALL
+    assert lock.lockingComponent is nga.ALL
+    assert nga.ConnectorLock.from_dict(lock.to_dict()) == lock
+    lock.lockingComponent = 3
+    assert lock.lockingComponent == 3
+
+
+def test_maps_are_maps(doc):
+    case = doc.LoadCase(name="service", loads={"wind": 1.0})
+    case.loads["snow"] = 0.1
+    assert dict(case.loads) == {"snow": pytest.approx(0.1), "wind": 1.0}
+    assert eval(case.path + ".loads['wind']", {"documents": nga.documents}) == 1.0
+    del case.loads["wind"]
+    assert list(case.loads) == ["snow"]
+    with pytest.raises(KeyError, match="snow"):
+        case.loads["snwo"]
+    with pytest.raises(TypeError):
+        case.loads["snow"] = "heavy"
+    with pytest.raises(ValueError):
+        case.loads["snow"] = 1e300
+    with pytest.raises(ValueError):
+        case.loads["it's"] = 1.0
+    assert list(case.loads) == ["snow"]
+
+
+def test_an_object_of_no_document_is_copied_into_one(doc, steel):
+    free = nga.Density(table=((7850.0,),))
+    steel.density = free
+    free.table = ((1.0,),)
+    assert steel.density.table[0, 0] == 7850.0
+    assert free.path is None and free.document is None
+    assert repr(free) == "nga.Density(table=((1.0,),))"
+    assert steel.density != free
+    with pytest.raises(TypeError, match="Density"):
+        steel.density = nga.Elastic(validate=False)
+
+
+def test_abstract_classes_are_not_made():
+    with pytest.raises(TypeError):
+        nga.kmaC_MaterialOption()
+    with pytest.raises(TypeError):
+        nga.Object()
+
+
+def test_reprs_are_short_and_true(doc, steel):
+    assert repr(doc) == "<Document documents['bench']>"
+    assert repr(doc.materials) == "<documents['bench'].materials: 1 object>"
+    assert repr(steel) == "<Material documents['bench'].materials['steel']>"
+    free = nga.Elastic(type=nga.LAMINA, failStress=nga.FailStress(table=((1.0,),), validate=False))
+    assert eval(repr(free)) == free
+
+
+def test_pickled_and_copied_objects_belong_to_no_document(steel):
+    elastic = steel.Elastic(table=((210e3, float("nan")), (-0.0, float("inf"))))
+    for other in (pickle.loads(pickle.dumps(elastic)), copy.copy(elastic), copy.deepcopy(elastic),
+                  nga.Elastic.from_dict(elastic.to_dict())):
+        assert other == elastic and other.path is None
+        assert other.table.tobytes() == elastic.table.tobytes()
+    with pytest.raises(nga.Error):
+        nga.Elastic.from_dict({"tpe": 1})
