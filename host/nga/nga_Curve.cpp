@@ -102,22 +102,23 @@ std::vector<Point> WithEnds(std::vector<Point> points, double zero = 0) {
     return points;
 }
 
-/// The line through such points and on at both ends.
-Curve Through(std::vector<Point> points) {
-    double const start = points.front().x;
-    double const length = points.back().x - start;
-    if (!(length > 0) || !IsFar(start, length)) return OverTime(WithEnds(std::move(points)));
-    for (Point& p : points) p.x -= start;
-    Curve curve = OverTime(WithEnds(std::move(points), start));
-    CountFrom(curve, start);
+/// The line through points whose times count from \p zero, and on at both ends.
+Curve Through(std::vector<Point> points, double zero = 0) {
+    double const length = points.back().x - points.front().x;
+    if (zero == 0 && length > 0 && IsFar(points.front().x, length)) {
+        zero = points.front().x;
+        for (Point& p : points) p.x -= zero;
+    }
+    Curve curve = OverTime(WithEnds(std::move(points), zero));
+    if (zero != 0) CountFrom(curve, zero);
     return curve;
 }
 
 template <class Recorded>
-Curve OfRecord(Recorded const& amplitude, std::vector<Point> points) {
+Curve OfRecord(Recorded const& amplitude, std::vector<Point> points, double zero = 0) {
     if (points.empty()) return NoCurve("the table has no two columns");
     if (!IsFinite(points)) return NoCurve("a point of it is not finite");
-    Curve curve = Through(std::move(points));
+    Curve curve = Through(std::move(points), zero);
     if (amplitude.smooth == maxNumber)
         AddNote(curve, "without the smoothing that the solver may apply");
     else if (amplitude.smooth != 0)
@@ -130,11 +131,15 @@ Curve Of(kamC_Tabular const& amplitude) { return OfRecord(amplitude, Rows(amplit
 
 Curve Of(kamC_EquallySpaced const& amplitude) {
     std::vector<Point> points;
-    points.reserve(static_cast<std::size_t>(amplitude.data.Size()));
-    for (int i = 0; i < amplitude.data.Size(); ++i)
+    int const size = amplitude.data.Size();
+    points.reserve(static_cast<std::size_t>(size));
+    double const interval = amplitude.fixedInterval;
+    // Before anything is added to the begin, which would round the intervals away.
+    bool const far = size > 1 && IsFar(amplitude.begin, (size - 1) * interval);
+    for (int i = 0; i < size; ++i)
         points.push_back(
-            {amplitude.begin + i * amplitude.fixedInterval, amplitude.data.ConstGet(i)});
-    return OfRecord(amplitude, std::move(points));
+            {(far ? 0.0 : amplitude.begin) + i * interval, amplitude.data.ConstGet(i)});
+    return OfRecord(amplitude, std::move(points), far ? amplitude.begin : 0);
 }
 
 Curve Of(kamC_SmoothStep const& amplitude) {

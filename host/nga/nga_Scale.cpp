@@ -146,7 +146,7 @@ std::vector<Scale::Tick> Scale::Decades(int wanted) const {
 
 std::vector<Scale::Tick> Scale::Ticks(int wanted) const {
     if (m_logarithmic && m_step > 0) return Decades(wanted);
-    if (m_logarithmic && std::log10(m_high) - std::log10(m_low) >= 1.5) return Decades(wanted);
+    if (m_logarithmic && std::log10(m_high) - std::log10(m_low) >= 0.99) return Decades(wanted);
     // One number at an axis says nothing about its scale.
     for (int tried = wanted;; ++tried) {
         std::vector<Tick> ticks = EvenTicks(tried);

@@ -287,8 +287,14 @@ std::vector<std::string> InLines(std::string const& remark, double page) {
     return lines;
 }
 
+/// The title as far as there is room: without the document's step first, which all pictures of a
+/// model share.
 std::string ShortTitle(std::string const& title, double page) {
-    return Shortened(title, static_cast<std::size_t>((page - 40) / titleLetterWidth));
+    std::size_t const room = static_cast<std::size_t>((page - 40) / titleLetterWidth);
+    std::size_t const document = title.find("'].");
+    if (Shortened(title, room) == title || document == std::string::npos)
+        return Shortened(title, room);
+    return Shortened(title.substr(document + 3), room);
 }
 
 }  // namespace

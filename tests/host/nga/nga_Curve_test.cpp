@@ -280,6 +280,14 @@ TEST_F(ACurve, FarFromTimeZeroCountsFromItsStart) {
     EXPECT_EQ(ValueAt(curve, 0.125), 0.5);
     EXPECT_LT(Points(curve).front().x, 0);
     EXPECT_EQ(curve.note, "time counts from 1e+06");
+    kamC_EquallySpaced values;
+    values.begin = 1e12;
+    values.fixedInterval = 1e-5;
+    for (double const value : {1.0, 3.0, 2.0}) values.data.Append(value);
+    curve = CurveOf(values);
+    EXPECT_EQ(ValueAt(curve, 1e-5), 3);
+    EXPECT_EQ(ValueAt(curve, 2e-5), 2);
+    EXPECT_TRUE(Mentions(curve.note, "time counts from 1e+12"));
     // Near enough for the numbers at an axis.
     decay.start = 1;
     decay.decayTime = 0.001;

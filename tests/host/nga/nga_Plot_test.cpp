@@ -314,6 +314,14 @@ TEST(AnSvg, ShortensALongTitleWhereItStandsAndKeepsItWholeAsTitle) {
     EXPECT_EQ(Count(svg, "\xe2\x80\xa6"), 1);
 }
 
+TEST(AnSvg, LeavesTheDocumentOutOfATitleThatIsTooLong) {
+    Picture picture = Section({Rectangle(0, 0, 1, 4)});
+    picture.title = "documents['a model of some name'].profiles['one of its profiles']";
+    std::string const svg = SvgText(picture);
+    EXPECT_EQ(Count(svg, "<title>documents['a model of some name']."), 1);
+    EXPECT_EQ(Count(svg, ">profiles['one of its profiles']<"), 1) << svg;
+}
+
 TEST(AnSvg, OfASectionHasOneUnitOnBothAxesAndItsCentroid) {
     Picture picture = Section({Circle(2), Circle(1, true)});
     picture.hasCentroid = true;

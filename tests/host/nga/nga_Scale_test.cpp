@@ -82,6 +82,7 @@ TEST(AScale, OfLogarithmsHasDecades) {
     EXPECT_EQ(Texts(Scale::Of(20, 2000, true).Ticks(6)),
               (Words{"20", "50", "100", "200", "500", "1000", "2000"}));
     EXPECT_EQ(Texts(Scale::Of(1e-12, 1e12, true).Ticks(4)), (Words{"1e-07", "1", "1e+07"}));
+    EXPECT_EQ(Texts(Scale::Of(1, 10, true).Ticks(6)), (Words{"1", "2", "5", "10"}));
     EXPECT_GE(Scale::Of(40, 45, true).Ticks(4).size(), 2u) << "less than a decade";
     for (double const only : {DBL_MIN, 1.0, DBL_MAX, 5e-324}) {
         Scale const one = Scale::Of(only, only, true);
