@@ -119,7 +119,8 @@ public:
         verb->add_option("--into", a.into,
                          "The document, made if it is not there; without this a new one in this "
                          "folder, named as the text")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->check(SomeName());
         Conflicts(verb);
         Json(verb);
 
@@ -163,7 +164,8 @@ public:
                     "nga journal examples/bracket.json", &Tool::Journal);
         Text(verb);
         verb->add_option("--into", a.into, "The document to import into, left as it is")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->check(SomeName());
         Conflicts(verb);
         Json(verb);
 

@@ -132,7 +132,7 @@ TEST(Show, DrawsNothingOnATerminalIfThatIsRefused) {
     EXPECT_EQ(shown.find(axis), std::string::npos);
 }
 
-TEST(Show, RefusesAPictureInTwoPlacesOrInNone) {
+TEST(Show, RefusesAPictureInTwoPlacesAndAnyFileWithoutAName) {
     TemporaryFolder const folder;
     std::string const file = folder.Path("x.svg");
     for (std::vector<std::string> const& more :
@@ -152,6 +152,12 @@ TEST(Show, RefusesAPictureInTwoPlacesOrInNone) {
         EXPECT_EQ(run.code, 2);
         EXPECT_EQ(run.out, "");
         EXPECT_NE(run.err.find("--output: the name is empty"), std::string::npos) << run.err;
+    }
+    // Nor is a document made under another name.
+    for (char const* verb : {"import", "journal"}) {
+        ToolRun const run = RunNga({verb, example, "--into", ""});
+        EXPECT_EQ(run.code, 2);
+        EXPECT_NE(run.err.find("--into: the name is empty"), std::string::npos) << run.err;
     }
 }
 
