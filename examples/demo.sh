@@ -43,11 +43,13 @@ step "Amplitudes, sections of beams and filters"
 cp "$examples/loads_and_sections.json" .
 shown import loads_and_sections.json --into loads_and_sections.nga
 shown check loads_and_sections.nga
+"$nga" export loads_and_sections.nga | cmp - loads_and_sections.json
 
 step "Connectors: a hinge with all eight behaviours, and a rubber bushing"
 cp "$examples/hinge.json" .
 shown import hinge.json --into hinge.nga
 shown check hinge.nga
+"$nga" export hinge.nga | cmp - hinge.json
 shown tree hinge.nga
 
 step "A load over time, and a section with its properties, as pictures"

@@ -103,11 +103,35 @@ std::string ReadText(std::string const& path) {
     return text;
 }
 
+namespace {
+
+/// The file that is meant, behind any links, be it there or not.
+std::string Followed(std::string const& path) {
+    constexpr int mostLinks = 40;
+    std::string target = path;
+    for (int links = 0;; ++links) {
+        std::error_code failure;
+        std::filesystem::file_status const status =
+            std::filesystem::symlink_status(target, failure);
+        if (status.type() == std::filesystem::file_type::not_found) return target;
+        if (failure) FailFile("cannot write", path, failure.value());
+        if (!std::filesystem::is_symlink(status)) return target;
+        if (links == mostLinks) FailFile("cannot write", path, ELOOP);
+        std::filesystem::path const next = std::filesystem::read_symlink(target, failure);
+        if (failure) FailFile("cannot write", path, failure.value());
+        // An absolute one takes the place of the whole.
+        target = (std::filesystem::path(target).parent_path() / next).string();
+    }
+}
+
+}  // namespace
+
 void WriteText(std::string const& path, std::string_view text) {
-    std::string const target =
-        std::filesystem::exists(path) ? std::filesystem::canonical(path).string() : path;
+    std::string const target = Followed(path);
+    std::error_code failure;
+    std::filesystem::file_status const old = std::filesystem::status(target, failure);
     // What is no plain file (a pipe, a terminal) cannot be replaced; it takes what is written.
-    if (std::filesystem::exists(target) && !std::filesystem::is_regular_file(target)) {
+    if (std::filesystem::exists(old) && !std::filesystem::is_regular_file(old)) {
         File const file(std::fopen(target.c_str(), "wb"));
         if (!file) FailFile("cannot write", path, errno);
         if (std::fwrite(text.data(), 1, text.size(), file.get()) != text.size() ||
@@ -131,13 +155,11 @@ void WriteText(std::string const& path, std::string_view text) {
             std::fflush(file.get()) != 0 || fsync(descriptor) != 0)
             FailFile("cannot write", path, errno);
     }
-    std::error_code failure;
     // A new file has the mode that the user's mask gives, not that of a secret.
     mode_t const mask = umask(0);
     umask(mask);
     std::filesystem::perms mode = std::filesystem::perms(0666u & ~mask);
-    if (std::filesystem::exists(target))
-        mode = std::filesystem::status(target, failure).permissions();
+    if (std::filesystem::exists(old)) mode = old.permissions();
     std::filesystem::permissions(beside, mode, failure);
     if (std::rename(beside.c_str(), target.c_str()) != 0) FailFile("cannot write", path, errno);
     litter.gone = true;

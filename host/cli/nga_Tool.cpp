@@ -52,6 +52,7 @@ struct Arguments {
     bool dryRun = false;
     bool noComplete = false;
     bool plot = false;
+    bool noPlot = false;
 };
 
 bool EndsWith(std::string const& text, std::string_view ending) {
@@ -131,7 +132,8 @@ public:
         verb->add_option("--into", a.into,
                          "The document, made if it is not there; without this a new one in this "
                          "folder, named as the text")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->check(SomeName());
         Conflicts(verb);
         Json(verb);
 
@@ -139,7 +141,8 @@ public:
                     "nga export bracket.nga --output bracket.json", &Tool::Export);
         File(verb);
         verb->add_option("-o,--output", a.output, "A file instead of the standard output")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->check(SomeName());
 
         verb = Verb("tree", "Show the objects of a document",
                     "nga tree bracket.nga \"materials['steel']\"", &Tool::Tree);
@@ -208,7 +211,8 @@ public:
                     "nga journal examples/bracket.json", &Tool::Journal);
         Text(verb);
         verb->add_option("--into", a.into, "The document to import into, left as it is")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->check(SomeName());
         verb->add_flag("--script", a.script, "Show the Python script that makes the same changes");
         Conflicts(verb);
         Json(verb);
@@ -272,13 +276,25 @@ private:
     void Json(CLI::App* verb) { verb->add_flag("--json", m_arguments.json, "Report as JSON"); }
     void Pictures(CLI::App* verb) {
         CLI::Option* const json = verb->add_flag("--json", m_arguments.json, "Report as JSON");
-        verb->add_flag("--plot", m_arguments.plot,
-                       "Draw an amplitude's curve or a profile's section below, as on a terminal")
-            ->excludes(json);
+        CLI::Option* const plot =
+            verb->add_flag("--plot", m_arguments.plot,
+                           "Draw an amplitude's curve or a profile's section below, as on a "
+                           "terminal; a failure where there is none")
+                ->excludes(json);
+        verb->add_flag("--no-plot", m_arguments.noPlot, "Draw nothing on a terminal either")
+            ->excludes(plot);
         verb->add_option("-o,--output", m_arguments.output,
                          "Write that picture as SVG, and nothing else; - for the standard output")
             ->type_name("FILE.svg")
-            ->excludes(json);
+            ->check(SomeName())
+            ->excludes(json)
+            ->excludes(plot);
+    }
+    /// As from a variable of a shell that was never set.
+    static CLI::Validator SomeName() {
+        return CLI::Validator(
+            [](std::string& name) { return std::string(name.empty() ? "the name is empty" : ""); },
+            "");
     }
     void Conflicts(CLI::App* verb) {
         verb->add_option("--on-conflict", m_arguments.onConflict,
@@ -432,32 +448,45 @@ private:
         Document const document = Opened(m_arguments.file);
         Selection const selection = Resolve(document, m_arguments.path);
         if (!m_arguments.output.empty()) return WriteSvg(selection);
-        m_console.Result(m_arguments.json ? ShowJson(document, selection)
-                                          : ShowText(document, selection));
-        if (!m_arguments.json && (m_arguments.plot || m_console.OutIsTerminal())) Plot(selection);
+        if (m_arguments.json) {
+            m_console.Result(ShowJson(document, selection));
+            return exitFine;
+        }
+        bool const seen = m_console.OutIsTerminal();
+        std::string const fields = ShowText(document, selection, seen);
+        if (m_arguments.plot) {
+            // What was asked for and cannot be had is a failure, and half a result none.
+            Picture const picture = PictureOrFail(selection);
+            m_console.Result(fields + "\n" + PlotText(picture));
+            return exitFine;
+        }
+        m_console.Result(fields);
+        // A terminal shows everything, and most of that has no picture by its nature.
+        if (seen && !m_arguments.noPlot && MayHavePicture(selection)) Plot(selection, fields);
         return exitFine;
+    }
+    static Picture PictureOrFail(Selection const& selection) {
+        Picture picture = PictureOf(selection);
+        if (!picture.none.empty())
+            throw Error("there is no picture: " + picture.none, selection.path);
+        return picture;
     }
     int WriteSvg(Selection const& selection) {
         std::string const& file = m_arguments.output;
         if (file != "-" && !EndsWith(file, ".svg"))
             throw Error("a picture cannot stand there", file, 0, "a name that ends in .svg");
-        Picture const picture = PictureOf(selection);
-        if (!picture.none.empty())
-            throw Error("there is no picture: " + picture.none, selection.path);
-        std::string const text = SvgText(picture);
+        std::string const text = SvgText(PictureOrFail(selection));
         if (file == "-")
             m_console.Result(text);
         else
             WriteText(file, text);
         return exitFine;
     }
-    void Plot(Selection const& selection) {
-        // A terminal shows everything, and most of that has no picture by its nature.
-        if (!m_arguments.plot && !MayHavePicture(selection)) return;
+    void Plot(Selection const& selection, std::string const& above) {
         Picture const picture = PictureOf(selection);
         if (picture.none.empty())
             m_console.Result("\n" + PlotText(picture));
-        else
+        else if (above.find(picture.none) == std::string::npos)
             m_console.Say("no picture: " + picture.none);
     }
 

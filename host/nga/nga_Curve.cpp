@@ -16,6 +16,7 @@
 #include "kamC_Tabular.h"
 #include "kamC_UserAmplitude.h"
 #include "nga_Check.h"
+#include "nga_JsonWriter.h"
 #include "nga_Scale.h"
 
 namespace nga {
@@ -57,35 +58,67 @@ std::vector<Point> Rows(cow_2DArray<double> const& data) {
     return points;
 }
 
-/// Where to begin so that what holds before \p start is seen: no time before zero, unless the start
-/// is one.
-double Before(double start, double lead) {
-    return start < 0 ? start - lead : std::max(0.0, start - lead);
+/// How long before \p start to begin, so that what holds there is seen: no time before zero, unless
+/// the start is one.
+double LeadBefore(double start, double lead) {
+    return start < 0 ? lead : std::min(lead, std::max(start, 0.0));
 }
 
-/// Adds what holds before the first and after the last point: a little of it, and nothing at a
-/// negative time that the points do not reach themselves.
-std::vector<Point> WithEnds(std::vector<Point> points) {
-    Point const first = points.front();
-    Point const last = points.back();
-    double lead = 0.05 * (last.x - first.x);
-    if (!(lead > 0)) lead = first.x != 0 ? 0.1 * std::fabs(first.x) : 1.0;
-    // At the end of the numbers there is no room for it.
-    double const from = std::max(Before(first.x, lead), -maxNumber);
-    if (from < first.x) points.insert(points.begin(), {from, first.y});
-    points.push_back({std::min(last.x + lead, maxNumber), last.y});
-    return points;
+/// Whether so short a time, so long after time zero, leaves no digits for an axis.
+bool IsFar(double start, double length) {
+    return std::isfinite(start) && length < 1e-6 * std::fabs(start);
 }
 
 void AddNote(Curve& curve, std::string const& text) {
     curve.note += (curve.note.empty() ? "" : "; ") + text;
 }
 
+void CountFrom(Curve& curve, double start) {
+    curve.fromStart = true;
+    AddNote(curve, "time counts from " + JsonWriter::DoubleText(start));
+}
+
+/// The curve of points whose time counts from \p start.
+Curve FromStart(std::vector<Point> points, double start) {
+    bool const far = IsFar(start, points.back().x - points.front().x);
+    if (!far)
+        for (Point& p : points) p.x += start;
+    Curve curve = OverTime(std::move(points));
+    if (far) CountFrom(curve, start);
+    return curve;
+}
+
+/// Adds what holds before the first and after the last point: a little of it, and nothing at a
+/// negative time that the points do not reach themselves. Their times count from \p zero.
+std::vector<Point> WithEnds(std::vector<Point> points, double zero = 0) {
+    Point const first = points.front();
+    Point const last = points.back();
+    double lead = 0.05 * (last.x - first.x);
+    if (!(lead > 0)) lead = first.x != 0 ? 0.1 * std::fabs(first.x) : 1.0;
+    // At the end of the numbers there is no room for it.
+    double const from = std::max(first.x - LeadBefore(first.x + zero, lead), -maxNumber);
+    if (from < first.x) points.insert(points.begin(), {from, first.y});
+    points.push_back({std::min(last.x + lead, maxNumber), last.y});
+    return points;
+}
+
+/// The line through points whose times count from \p zero, and on at both ends.
+Curve Through(std::vector<Point> points, double zero = 0) {
+    double const length = points.back().x - points.front().x;
+    if (zero == 0 && length > 0 && IsFar(points.front().x, length)) {
+        zero = points.front().x;
+        for (Point& p : points) p.x -= zero;
+    }
+    Curve curve = OverTime(WithEnds(std::move(points), zero));
+    if (zero != 0) CountFrom(curve, zero);
+    return curve;
+}
+
 template <class Recorded>
-Curve OfRecord(Recorded const& amplitude, std::vector<Point> points) {
+Curve OfRecord(Recorded const& amplitude, std::vector<Point> points, double zero = 0) {
     if (points.empty()) return NoCurve("the table has no two columns");
     if (!IsFinite(points)) return NoCurve("a point of it is not finite");
-    Curve curve = OverTime(WithEnds(std::move(points)));
+    Curve curve = Through(std::move(points), zero);
     if (amplitude.smooth == maxNumber)
         AddNote(curve, "without the smoothing that the solver may apply");
     else if (amplitude.smooth != 0)
@@ -98,11 +131,15 @@ Curve Of(kamC_Tabular const& amplitude) { return OfRecord(amplitude, Rows(amplit
 
 Curve Of(kamC_EquallySpaced const& amplitude) {
     std::vector<Point> points;
-    points.reserve(static_cast<std::size_t>(amplitude.data.Size()));
-    for (int i = 0; i < amplitude.data.Size(); ++i)
+    int const size = amplitude.data.Size();
+    points.reserve(static_cast<std::size_t>(size));
+    double const interval = amplitude.fixedInterval;
+    // Before anything is added to the begin, which would round the intervals away.
+    bool const far = size > 1 && IsFar(amplitude.begin, (size - 1) * interval);
+    for (int i = 0; i < size; ++i)
         points.push_back(
-            {amplitude.begin + i * amplitude.fixedInterval, amplitude.data.ConstGet(i)});
-    return OfRecord(amplitude, std::move(points));
+            {(far ? 0.0 : amplitude.begin) + i * interval, amplitude.data.ConstGet(i)});
+    return OfRecord(amplitude, std::move(points), far ? amplitude.begin : 0);
 }
 
 Curve Of(kamC_SmoothStep const& amplitude) {
@@ -121,7 +158,7 @@ Curve Of(kamC_SmoothStep const& amplitude) {
         }
         points.push_back(b);
     }
-    return OverTime(WithEnds(std::move(points)));
+    return Through(std::move(points));
 }
 
 /// One period of a Fourier series, its last point the first of the next.
@@ -165,39 +202,43 @@ Curve Of(kamC_Periodic const& amplitude) {
     std::vector<Point> const period = Period(amplitude, terms);
     double const length = period.back().x;
     std::vector<Point> points;
-    points.push_back({Before(start, 0.1 * length), amplitude.a_0});
-    points.push_back({start, amplitude.a_0});
-    for (Point const& p : period) points.push_back({start + p.x, p.y});
-    for (Point const& p : period) points.push_back({start + length + p.x, p.y});
-    return OverTime(std::move(points));
+    points.push_back({-LeadBefore(start, 0.1 * length), amplitude.a_0});
+    points.push_back({0, amplitude.a_0});
+    points.insert(points.end(), period.begin(), period.end());
+    for (Point const& p : period) points.push_back({length + p.x, p.y});
+    return FromStart(std::move(points), start);
 }
 
 Curve Of(kamC_Modulated const& amplitude) {
-    double const w1 = amplitude.frequency1;
-    double const w2 = amplitude.frequency2;
+    double const w1 = std::fabs(amplitude.frequency1);
+    double const w2 = std::fabs(amplitude.frequency2);
     double const start = amplitude.start;
-    if (!std::isfinite(std::fabs(w1) + std::fabs(w2))) return NoCurve("a frequency is not finite");
+    if (!std::isfinite(w1 + w2)) return NoCurve("a frequency is not finite");
     if (w1 == 0 || w2 == 0 || amplitude.magnitude == 0) {
         std::vector<Point> points = {{start, amplitude.initial}, {start, amplitude.initial}};
         Curve curve = OverTime(WithEnds(std::move(points)));
         AddNote(curve, "constant, since a frequency or the magnitude is zero");
         return curve;
     }
-    double const fast = twoPi / (std::fabs(w1) + std::fabs(w2));
-    double const difference = std::fabs(std::fabs(w1) - std::fabs(w2));
-    double const beats = difference > 0 ? (std::fabs(w1) + std::fabs(w2)) / difference : 0;
-    double const oscillations = std::clamp(beats, 3.0, 40.0);
+    // What is slow is either the envelope, which has a hump for each half oscillation of the slower
+    // sine, or the difference of two frequencies that are nearly equal.
+    double const envelope = 2 * std::min(w1, w2);
+    double const difference = std::fabs(w1 - w2);
+    double const slow = difference > 0 ? std::min(envelope, difference) : envelope;
+    double const whole = (w1 + w2) / slow;
+    double const oscillations = std::clamp(whole, 3.0, 40.0);
     int const count = static_cast<int>(std::ceil(oscillations * pointsOfAnOscillation));
-    double const length = fast * oscillations;
+    double const length = twoPi / (w1 + w2) * oscillations;
     std::vector<Point> points;
-    points.push_back({Before(start, 0.05 * length), amplitude.initial});
+    points.push_back({-LeadBefore(start, 0.05 * length), amplitude.initial});
     for (int k = 0; k <= count; ++k) {
         double const t = length * k / count;
-        points.push_back({start + t, amplitude.initial + amplitude.magnitude * std::sin(w1 * t) *
-                                                             std::sin(w2 * t)});
+        points.push_back(
+            {t, amplitude.initial + amplitude.magnitude * std::sin(amplitude.frequency1 * t) *
+                                        std::sin(amplitude.frequency2 * t)});
     }
-    Curve curve = OverTime(std::move(points));
-    if (beats > oscillations) AddNote(curve, "the beginning of a beat");
+    Curve curve = FromStart(std::move(points), start);
+    if (whole > oscillations) AddNote(curve, "the beginning of a beat");
     return curve;
 }
 
@@ -206,22 +247,32 @@ Curve Of(kamC_Decay const& amplitude) {
     if (!(decay > 0)) return NoCurve("the decay time is not positive");
     std::vector<Point> points;
     double const start = amplitude.start;
-    points.push_back({Before(start, 0.5 * decay), amplitude.initial});
-    points.push_back({start, amplitude.initial});
+    points.push_back({-LeadBefore(start, 0.5 * decay), amplitude.initial});
+    points.push_back({0, amplitude.initial});
     constexpr int count = 200;
     for (int k = 0; k <= count; ++k) {
         double const t = 5.0 * k / count;
-        points.push_back({start + t * decay, amplitude.initial + amplitude.maximum * std::exp(-t)});
+        points.push_back({t * decay, amplitude.initial + amplitude.maximum * std::exp(-t)});
     }
-    return OverTime(std::move(points));
+    return FromStart(std::move(points), start);
 }
 
-void OverFrequency(Curve& curve) {
+/// Logarithmic axes, as these are drawn by custom, as far as the numbers have logarithms. Decibels
+/// are logarithms themselves.
+void OverFrequency(Curve& curve, bool decibels = false) {
     curve.across = frequencyText;
+    bool positive = true;
     curve.logarithmic = true;
     for (CurveLine const& line : curve.lines)
-        for (Point const& p : line.points)
+        for (Point const& p : line.points) {
             if (!(p.x > 0)) curve.logarithmic = false;
+            if (!(p.y > 0)) positive = false;
+        }
+    curve.logarithmicUp = curve.logarithmic && positive && !decibels;
+    if (!curve.logarithmic)
+        AddNote(curve, "on plain axes, since a frequency is not positive");
+    else if (!positive && !decibels)
+        AddNote(curve, "on a plain axis upwards, since a value is not positive");
 }
 
 Curve Of(kamC_PsdDefinition const& amplitude) {
@@ -243,8 +294,9 @@ Curve Of(kamC_PsdDefinition const& amplitude) {
         curve.lines.pop_back();
         curve.lines[0].name.clear();
     }
-    curve.up = amplitude.type == kamC_PsdDefinition::PsdTypeEnm::DB ? "density in dB" : "density";
-    OverFrequency(curve);
+    bool const decibels = amplitude.type == kamC_PsdDefinition::PsdTypeEnm::DB;
+    curve.up = decibels ? "density in dB" : "density";
+    OverFrequency(curve, decibels);
     return curve;
 }
 
@@ -301,9 +353,10 @@ Curve CurveOf(kamC_Amplitude const& amplitude) {
     for (CurveLine const& line : curve.lines)
         if (!IsFinite(line.points)) return NoCurve("a point of it is not finite");
     if (curve.up.empty()) curve.up = "amplitude";
-    if (curve.across.empty())
-        curve.across =
-            amplitude.timeSpan == kamC_Amplitude::TimeSpanEnm::TOTAL ? "total time" : "step time";
+    bool const total = amplitude.timeSpan == kamC_Amplitude::TimeSpanEnm::TOTAL;
+    std::string const time = total ? "total time" : "step time";
+    if (curve.across.empty()) curve.across = time;
+    if (curve.fromStart) curve.across = time + " from the start";
     return curve;
 }
 

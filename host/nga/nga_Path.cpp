@@ -233,6 +233,7 @@ private:
         m_now.key = step.text;
         m_now.what = Selection::What::Object;
         m_now.path += KeyStep(step.text);
+        m_now.entry = m_now.path;
     }
 
     void FromObject() {

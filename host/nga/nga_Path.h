@@ -39,6 +39,8 @@ struct Selection {
 
     What what = What::Document;
     std::string path;  ///< as FieldStep and its like write it
+    /// The path of the named object that this is or lies in; empty above the objects.
+    std::string entry;
     nga::Collection const* collection = nullptr;
     mdl_Description const* description = nullptr;  ///< of the object, or of the field's owner
     void const* object = nullptr;

@@ -24,6 +24,25 @@ T const* SelectedAs(Selection const& selection) {
     return static_cast<T const*>(selection.object);
 }
 
+bool HoldsPictures(Collection const& collection) {
+    return IsBelow(&collection.Held(), kamC_Amplitude::Description()) ||
+           IsBelow(&collection.Held(), kbpC_BeamProfile::Description());
+}
+
+/// Why what is selected can have no picture, and what may have been meant.
+std::string WhyNone(Selection const& selection) {
+    std::string const only = "only amplitudes and profiles have one";
+    if (!selection.collection || !HoldsPictures(*selection.collection)) return only;
+    if (selection.what == Selection::What::Collection)
+        return "a collection has one for each object; name one of its objects";
+    return only + ", as a whole; this is a part of " + selection.entry;
+}
+
+/// A number for people; what is none as the fields above show it.
+std::string FieldText(double value) {
+    return std::isfinite(value) ? NumberText(value) : JsonWriter::DoubleText(value);
+}
+
 void Include(PictureBounds& bounds, Point p) {
     bounds.low = {std::min(bounds.low.x, p.x), std::min(bounds.low.y, p.y)};
     bounds.high = {std::max(bounds.high.x, p.x), std::max(bounds.high.y, p.y)};
@@ -59,18 +78,20 @@ Picture PictureOf(Selection const& selection) {
         picture.up = curve.up;
         picture.note = curve.note;
         picture.logarithmic = curve.logarithmic;
+        picture.logarithmicUp = curve.logarithmicUp;
         picture.lines = std::move(curve.lines);
     } else if (auto const* profile = SelectedAs<kbpC_BeamProfile>(selection)) {
         Section section = SectionOf(*profile);
         picture.none = section.noOutline;
         picture.across = "axis 1";
         picture.up = "axis 2";
+        picture.note = section.note;
         picture.sameScale = true;
         picture.contours = std::move(section.contours);
-        picture.hasCentroid = section.none.empty() && section.hasCentroid;
+        picture.hasCentroid = section.none.empty() && !section.given;
         picture.centroid = section.properties.centroid;
     } else {
-        picture.none = "only amplitudes and profiles have one";
+        picture.none = WhyNone(selection);
     }
     return picture;
 }
@@ -81,12 +102,16 @@ std::string SectionText(Selection const& selection) {
     Section const section = SectionOf(*profile);
     if (!section.none.empty()) return "  section: none, since " + section.none + "\n";
     SectionProperties const& p = section.properties;
-    std::string text = "  section\n    area      " + NumberText(p.area) + "\n";
-    if (section.hasCentroid)
+    std::string text = "  section\n    area      " + FieldText(p.area) + "\n";
+    if (!section.given)
         text +=
-            "    centroid  [" + NumberText(p.centroid.x) + ", " + NumberText(p.centroid.y) + "]\n";
-    return text + "    i11       " + NumberText(p.i11) + "\n    i22       " + NumberText(p.i22) +
-           "\n    i12       " + NumberText(p.i12) + "\n    polar     " + NumberText(p.polar) + "\n";
+            "    centroid  [" + FieldText(p.centroid.x) + ", " + FieldText(p.centroid.y) + "]\n";
+    text += "    i11       " + FieldText(p.i11) + "\n    i22       " + FieldText(p.i22) +
+            "\n    i12       " + FieldText(p.i12) + "\n";
+    text += section.given ? "    j         " + FieldText(p.j) + "\n"
+                          : "    polar     " + FieldText(p.polar) + "\n";
+    if (!section.note.empty()) text += "    note      " + section.note + "\n";
+    return text;
 }
 
 void WriteSection(JsonWriter& writer, Selection const& selection) {
@@ -104,7 +129,7 @@ void WriteSection(JsonWriter& writer, Selection const& selection) {
     writer.BeginObject();
     writer.Key("area");
     writer.Double(p.area);
-    if (section.hasCentroid) {
+    if (!section.given) {
         writer.Key("centroid");
         writer.BeginArray(true);
         writer.Double(p.centroid.x);
@@ -117,8 +142,12 @@ void WriteSection(JsonWriter& writer, Selection const& selection) {
     writer.Double(p.i22);
     writer.Key("i12");
     writer.Double(p.i12);
-    writer.Key("polar");
-    writer.Double(p.polar);
+    writer.Key(section.given ? "j" : "polar");
+    writer.Double(section.given ? p.j : p.polar);
+    if (!section.note.empty()) {
+        writer.Key("note");
+        writer.String(section.note);
+    }
     writer.EndObject();
 }
 

@@ -19,8 +19,9 @@ struct Picture {
     std::string across;
     std::string up;
     std::string note;
-    bool logarithmic = false;  ///< across
-    bool sameScale = false;    ///< the two axes have one unit
+    bool logarithmic = false;    ///< across
+    bool logarithmicUp = false;  ///< up
+    bool sameScale = false;      ///< the two axes have one unit
     std::vector<CurveLine> lines;
     std::vector<Contour> contours;
     bool hasCentroid = false;

@@ -41,8 +41,8 @@ public:
                 static_cast<int>(std::lround(y0 + part * (y1 - y0))));
         }
     }
-    /// Without the blanks at its end.
-    std::string Row(int row) const {
+    /// Without the blanks at its end, unless \p whole.
+    std::string Row(int row, bool whole = false) const {
         std::string text;
         std::size_t used = 0;
         for (int column = 0; column < m_columns; ++column) {
@@ -57,7 +57,7 @@ public:
             text += static_cast<char>(0x80 + (bits & 0x3f));
             used = text.size();
         }
-        text.resize(used);
+        if (!whole) text.resize(used);
         return text;
     }
 
@@ -104,7 +104,8 @@ Axes AxesOf(Picture const& picture, int columns) {
     PictureBounds const bounds = BoundsOf(picture);
     if (picture.sameScale) return SameScaleAxes(bounds, columns);
     return {Scale::Of(bounds.low.x, bounds.high.x, picture.logarithmic),
-            Scale::Rounded(bounds.low.y, bounds.high.y, 4), Dots(columns, plotRows)};
+            Scale::Rounded(bounds.low.y, bounds.high.y, 4, picture.logarithmicUp),
+            Dots(columns, plotRows)};
 }
 
 /// A contour as a polygon of dots.
@@ -204,13 +205,28 @@ std::string Wrapped(std::string const& heading, std::string const& text) {
     return wrapped;
 }
 
+/// What stands at a line's end, and before its name below.
+char LetterOf(std::size_t line) { return static_cast<char>('a' + line); }
+
 std::string NamesOf(std::vector<CurveLine> const& lines) {
     std::string names;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (i == maxNames) return names + " and " + std::to_string(lines.size() - i) + " more";
-        names += (i == 0 ? "" : ", ") + lines[i].name;
+        names += (i == 0 ? "" : ", ") + std::string(1, LetterOf(i)) + " " + lines[i].name;
     }
     return names;
+}
+
+/// The letters of the lines that end in each row.
+std::vector<std::string> EndsOf(Axes const& axes, std::vector<CurveLine> const& lines) {
+    std::vector<std::string> ends(static_cast<std::size_t>(axes.dots.Down() / 4));
+    if (lines.size() < 2) return ends;
+    for (std::size_t i = 0; i < lines.size() && i < maxNames; ++i) {
+        if (lines[i].points.empty()) continue;
+        long const dot = std::lround(axes.Y(lines[i].points.back().y));
+        ends[static_cast<std::size_t>(dot / 4)] += LetterOf(i);
+    }
+    return ends;
 }
 
 /// The texts left of the axis, row by row.
@@ -238,7 +254,10 @@ std::string PlotText(Picture const& picture) {
     Axes axes = AxesOf(picture, plotColumns);
     Labels labels = LabelsOf(axes);
     // Great numbers that hardly differ need many digits.
-    if (int const room = lineWidth - 4 - static_cast<int>(labels.width); room < plotColumns) {
+    int const letters = static_cast<int>(std::min(picture.lines.size(), maxNames));
+    int const beside = picture.lines.size() > 1 ? letters + 1 : 0;
+    if (int const room = lineWidth - 4 - beside - static_cast<int>(labels.width);
+        room < plotColumns) {
         axes = AxesOf(picture, room);
         labels = LabelsOf(axes);
     }
@@ -246,10 +265,13 @@ std::string PlotText(Picture const& picture) {
     int const columns = axes.dots.Across() / 2;
     std::size_t const width = labels.width;
     std::string text = "  " + picture.up + "\n";
+    std::vector<std::string> const ends = EndsOf(axes, picture.lines);
     for (int row = 0; row < axes.dots.Down() / 4; ++row) {
         std::string const& label = labels.rows[static_cast<std::size_t>(row)];
+        std::string const& end = ends[static_cast<std::size_t>(row)];
         text += "  " + std::string(width - label.size(), ' ') + label +
-                (label.empty() ? " │" : " ┤") + axes.dots.Row(row) + "\n";
+                (label.empty() ? " │" : " ┤") + axes.dots.Row(row, !end.empty()) +
+                (end.empty() ? "" : " " + end) + "\n";
     }
     std::vector<Scale::Tick> const across = axes.across.Ticks(std::max(1, columns / 10));
     std::vector<bool> marked(static_cast<std::size_t>(columns));

@@ -18,7 +18,27 @@ std::string TickText(double value, int decimals, bool scientific) {
     return text;
 }
 
+/// The step of a logarithmic scale that has room for three ticks a decade.
+constexpr double oneTwoFive = 1 / 3.0;
+
 int DecadeOf(double value) { return static_cast<int>(std::floor(std::log10(value))); }
+
+/// The last of 1, 2, 5, 10, 20, ... that is not above a positive number.
+double RoundDown(double value) {
+    double const decade = std::pow(10.0, DecadeOf(value * (1 + 1e-9)));
+    for (double const factor : {5.0, 2.0})
+        if (factor * decade <= value * (1 + 1e-9)) return std::min(factor * decade, value);
+    return std::min(decade, value);
+}
+
+/// The first that is not below it, or the number itself where no number is so great.
+double RoundUp(double value) {
+    double const decade = std::pow(10.0, DecadeOf(value * (1 - 1e-9)));
+    for (double const factor : {1.0, 2.0, 5.0, 10.0})
+        if (factor * decade >= value * (1 - 1e-9) && std::isfinite(factor * decade))
+            return std::max(factor * decade, value);
+    return value;
+}
 
 }  // namespace
 
@@ -51,13 +71,36 @@ Scale Scale::Of(double low, double high, bool logarithmic) {
     return Scale(low, high, false);
 }
 
-Scale Scale::Rounded(double low, double high, int wanted) {
-    Scale scale = Of(low, high);
+Scale Scale::Rounded(double low, double high, int wanted, bool logarithmic) {
+    // What differs less is one number to the rounding below.
+    if (logarithmic && !(high > low * (1 + 1e-8))) high = low;
+    Scale scale = Of(low, high, logarithmic);
+    if (logarithmic) {
+        double first = std::floor(std::log10(scale.m_low) + 1e-9);
+        double last = std::ceil(std::log10(scale.m_high) - 1e-9);
+        if (last - first <= 2) {
+            scale.m_step = oneTwoFive;
+            scale.m_low = std::max(RoundDown(scale.m_low), DBL_MIN);
+            scale.m_high = RoundUp(scale.m_high);
+            return scale;
+        }
+        // A few more ticks than wanted serve better than half an axis of nothing.
+        double const every = std::ceil((last - first) / (std::max(wanted, 1) + 2));
+        first = std::floor(first / every) * every;
+        last = std::ceil(last / every) * every;
+        // At the end of the numbers there is no room for a whole step.
+        scale.m_low = std::min(std::max(std::pow(10.0, first), DBL_MIN), scale.m_low);
+        double const above = std::pow(10.0, last);
+        if (std::isfinite(above)) scale.m_high = std::max(above, scale.m_high);
+        scale.m_step = every;
+        return scale;
+    }
     double const step = scale.Step(wanted);
     double const below = std::floor(scale.m_low / step + 1e-6) * step;
     double const above = std::ceil(scale.m_high / step - 1e-6) * step;
     if (std::isfinite(below)) scale.m_low = std::min(below, scale.m_low);
     if (std::isfinite(above)) scale.m_high = std::max(above, scale.m_high);
+    scale.m_step = step;
     return scale;
 }
 
@@ -71,6 +114,7 @@ double Scale::Place(double value) const {
 }
 
 double Scale::Step(int wanted) const {
+    if (m_step > 0) return m_step;
     double const rough = (m_high / 2 - m_low / 2) / std::max(wanted, 1) * 2;
     double const decade = std::pow(10.0, DecadeOf(rough));
     for (double const factor : {1.0, 2.0, 5.0})
@@ -79,14 +123,17 @@ double Scale::Step(int wanted) const {
 }
 
 std::vector<Scale::Tick> Scale::Decades(int wanted) const {
-    int const first = DecadeOf(m_low);
-    int const last = DecadeOf(m_high);
-    int const every = std::max(1, (last - first + wanted) / wanted);
+    // A power of ten at an end may have lost its last bit.
+    int const first = DecadeOf(std::min(m_low, DBL_MAX / 2) * (1 + 1e-9));
+    int const last = DecadeOf(std::min(m_high, DBL_MAX / 2) * (1 + 1e-9));
+    int const every = m_step > 0 ? std::max(1, static_cast<int>(m_step))
+                                 : std::max(1, (last - first + wanted) / wanted);
     std::vector<Tick> ticks;
     for (int decade = first; decade <= last; ++decade) {
         if (every > 1 && (decade % every + every) % every != 0) continue;
         for (int const factor : {1, 2, 5}) {
-            if (factor > 1 && (last - first) * 3 > wanted) break;
+            bool const crowded = m_step > 0 ? m_step >= 1 : (last - first) * 3 > wanted;
+            if (factor > 1 && crowded) break;
             double const value = factor * std::pow(10.0, decade);
             if (value < m_low * (1 - 1e-9) || value > m_high * (1 + 1e-9)) continue;
             bool const plain = std::abs(decade) <= 4;
@@ -98,7 +145,8 @@ std::vector<Scale::Tick> Scale::Decades(int wanted) const {
 }
 
 std::vector<Scale::Tick> Scale::Ticks(int wanted) const {
-    if (m_logarithmic && std::log10(m_high) - std::log10(m_low) >= 1.5) return Decades(wanted);
+    if (m_logarithmic && m_step > 0) return Decades(wanted);
+    if (m_logarithmic && std::log10(m_high) - std::log10(m_low) >= 0.99) return Decades(wanted);
     // One number at an axis says nothing about its scale.
     for (int tried = wanted;; ++tried) {
         std::vector<Tick> ticks = EvenTicks(tried);

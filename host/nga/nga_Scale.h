@@ -20,11 +20,13 @@ public:
 
     /// For numbers from \p low to \p high. On a logarithmic scale both must be positive.
     static Scale Of(double low, double high, bool logarithmic = false);
-    /// The same, widened to whole steps between about \p wanted ticks.
-    static Scale Rounded(double low, double high, int wanted);
+    /// The same, widened to whole steps between about \p wanted ticks, or to whole decades, so that
+    /// a tick stands at either end.
+    static Scale Rounded(double low, double high, int wanted, bool logarithmic = false);
 
     double Place(double value) const;
-    /// About \p wanted ticks at round numbers within the axis.
+    /// About \p wanted ticks at round numbers within the axis. A rounded scale keeps the steps that
+    /// it was rounded to.
     std::vector<Tick> Ticks(int wanted) const;
 
 private:
@@ -37,6 +39,8 @@ private:
     double m_low;
     double m_high;
     bool m_logarithmic;
+    /// What a rounded scale was rounded to: the distance of its ticks, of decades if logarithmic.
+    double m_step = 0;
 };
 
 }  // namespace nga

@@ -23,6 +23,10 @@ namespace {
 
 constexpr double pi = 3.141592653589793238463;
 
+bool AreFinite(std::initializer_list<double> values) {
+    return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
+
 /// Integrals over an area of 1, x, y, y^2, x^2 and x y.
 struct Integrals {
     double area = 0;
@@ -248,9 +252,31 @@ Section Of(kbpC_LbeamProfile const& profile) {
     return Polygons({Polygon({{0, 0}, {a, 0}, {a, t1}, {t2, t1}, {t2, b}, {0, b}})});
 }
 
+/// Where a segment ends, and the way from there into it.
+struct SegmentEnd {
+    Point at;
+    Point way;
+};
+
+/// Whether anything meets there but two segments that go straight on.
+bool HasCorners(std::vector<SegmentEnd> ends) {
+    std::sort(ends.begin(), ends.end(), [](SegmentEnd const& a, SegmentEnd const& b) {
+        return a.at.x != b.at.x ? a.at.x < b.at.x : a.at.y < b.at.y;
+    });
+    for (std::size_t i = 1; i < ends.size(); ++i) {
+        SegmentEnd const& a = ends[i - 1];
+        SegmentEnd const& b = ends[i];
+        if (a.at.x != b.at.x || a.at.y != b.at.y) continue;
+        if (std::fabs(a.way.x * b.way.y - a.way.y * b.way.x) > 1e-9) return true;
+        if (a.way.x * b.way.x + a.way.y * b.way.y > 0) return true;
+    }
+    return false;
+}
+
 Section Of(kbpC_ArbitraryProfile const& profile) {
     cow_2DArray<double> const& table = profile.table;
     std::vector<Contour> contours;
+    std::vector<SegmentEnd> ends;
     for (int row = 1; row < table.Rows(); ++row) {
         Point const from{table.Cell(row - 1, 0), table.Cell(row - 1, 1)};
         Point const to{table.Cell(row, 0), table.Cell(row, 1)};
@@ -260,23 +286,32 @@ Section Of(kbpC_ArbitraryProfile const& profile) {
         if (half == 0 || length == 0) continue;
         double const nx = -(to.y - from.y) / length * half;
         double const ny = (to.x - from.x) / length * half;
+        Point const way{(to.x - from.x) / length, (to.y - from.y) / length};
+        // What is no number has no order either; such a section is refused for it.
+        if (AreFinite({from.x, from.y, to.x, to.y})) {
+            ends.push_back({from, way});
+            ends.push_back({to, {-way.x, -way.y}});
+        }
         contours.push_back(Polygon({{from.x - nx, from.y - ny},
                                     {to.x - nx, to.y - ny},
                                     {to.x + nx, to.y + ny},
                                     {from.x + nx, from.y + ny}}));
     }
     if (contours.empty()) return NoSection("it has no segments");
-    return Polygons(std::move(contours));
+    Section section = Polygons(std::move(contours));
+    if (HasCorners(std::move(ends))) section.note = "approximate where segments meet at an angle";
+    return section;
 }
 
 Section Of(kbpC_GeneralizedProfile const& profile) {
     Section section;
+    section.given = true;
     section.noOutline = "it is given by its properties and not by its shape";
     section.properties.area = profile.area;
     section.properties.i11 = profile.i11;
     section.properties.i22 = profile.i22;
     section.properties.i12 = profile.i12;
-    section.properties.polar = profile.j;
+    section.properties.j = profile.j;
     return section;
 }
 
@@ -293,10 +328,6 @@ Section Dispatch(kbpC_BeamProfile const& profile) {
     if (auto const* one = dynamic_cast<kbpC_ArbitraryProfile const*>(&profile)) return Of(*one);
     if (auto const* one = dynamic_cast<kbpC_GeneralizedProfile const*>(&profile)) return Of(*one);
     return NoSection("its class has no shape that is known");
-}
-
-bool AreFinite(std::initializer_list<double> values) {
-    return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
 }
 
 /// Why nobody can draw these contours; empty for what has a size and lies within sight of its
@@ -338,7 +369,6 @@ Section SectionOf(kbpC_BeamProfile const& profile) {
     if (!section.noOutline.empty()) section.contours.clear();
     SectionProperties& p = section.properties;
     p.polar = p.i11 + p.i22;
-    section.hasCentroid = true;
     if (!AreFinite({p.area, p.centroid.x, p.centroid.y, p.i11, p.i22, p.i12, p.polar}) ||
         !(p.area > 0) || !(p.i11 > 0) || !(p.i22 > 0))
         section.none = section.noOutline.empty()

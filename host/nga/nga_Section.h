@@ -18,7 +18,8 @@ struct Contour {
 };
 
 /// Area, centroid, and second moments about axes through the centroid: i11 the integral of x2^2,
-/// i22 that of x1^2, i12 that of x1 x2, polar i11 + i22.
+/// i22 that of x1^2, i12 that of x1 x2, polar i11 + i22. Of a round section polar is the torsion
+/// constant as well, of no other one.
 struct SectionProperties {
     double area = 0;
     Point centroid;
@@ -26,6 +27,7 @@ struct SectionProperties {
     double i22 = 0;
     double i12 = 0;
     double polar = 0;
+    double j = 0;  ///< only what a profile gives of itself
 };
 
 /// A profile's section in its axes 1 (to the right) and 2 (upwards).
@@ -35,8 +37,11 @@ struct Section {
     /// Why there is no outline; empty if there is one.
     std::string noOutline;
     SectionProperties properties;
-    /// Whether anything tells where the centroid is; of given properties nothing does.
-    bool hasCentroid = false;
+    /// Whether the profile gives the properties itself: then there is j, and neither a polar moment
+    /// nor a centroid, of which nothing tells.
+    bool given = false;
+    /// In what the section differs from the profile; may be empty.
+    std::string note;
     /// Contours may overlap where the segments of a thin-walled section meet.
     std::vector<Contour> contours;
 };
@@ -52,8 +57,9 @@ struct Section {
 ///   and p, q its ends, the area is L t, and the integral of x2^2 is
 ///   L t (p2^2 + p2 q2 + q2^2) / 3 + L t^3 / 12 (L1 / L)^2, L1 being q1 - p1. Where rectangles
 ///   meet at an angle, they overlap on one side and leave a gap on the other; for thin walls the
-///   error is small.
-/// - A generalized profile has the properties that it gives (polar is its j), and no outline.
+///   error is small, and the note tells of it.
+/// - A generalized profile has the properties that it gives, and no outline. What people take its j
+///   for is a torsion constant, which polar is not.
 ///
 /// The origin lies in the middle of circles, pipes, hexagons, rectangles and boxes, where the
 /// profile says so above the lower edge of I, T and trapezoid, and in the outer corner of an L,

@@ -21,6 +21,16 @@ constexpr char const* lineColours[] = {"#0b5394", "#b45309", "#2e7d32",
                                        "#7b1fa2", "#c2185b", "#455a64"};
 constexpr std::size_t colourCount = sizeof lineColours / sizeof *lineColours;
 constexpr std::size_t maxLegend = 12;
+/// How the lines differ whose colours are used up.
+constexpr char const* lineDashes[] = {"", "7 4", "2 3", "9 3 2 3"};
+constexpr std::size_t dashCount = sizeof lineDashes / sizeof *lineDashes;
+/// No narrower, so that a note finds its place below a narrow section.
+constexpr double leastWidth = 360;
+/// Of the page right of the plot, where a number may reach beyond it.
+constexpr double rightMargin = pageWidth - plotRight;
+/// About as wide as a letter of the notes, and of the title.
+constexpr double letterWidth = 6.2;
+constexpr double titleLetterWidth = 8;
 
 std::string Number(double value) {
     char text[32];
@@ -70,6 +80,7 @@ struct Frame {
     double left;
     double width;
     double height;
+    double page;  ///< width of the page
 
     double X(double value) const { return left + across.Place(value) * width; }
     double Y(double value) const { return plotTop + (1 - up.Place(value)) * height; }
@@ -105,10 +116,14 @@ double LeftOf(Scale const& up, double height) {
 Frame FrameOf(Picture const& picture) {
     PictureBounds const bounds = BoundsOf(picture);
     if (!picture.sameScale) {
-        Scale const up = Scale::Rounded(bounds.low.y, bounds.high.y, 6);
+        Scale const up = Scale::Rounded(bounds.low.y, bounds.high.y, 6, picture.logarithmicUp);
         double const left = LeftOf(up, plotHeight);
-        return {Scale::Of(bounds.low.x, bounds.high.x, picture.logarithmic), up, left,
-                plotRight - left, plotHeight};
+        return {Scale::Of(bounds.low.x, bounds.high.x, picture.logarithmic),
+                up,
+                left,
+                plotRight - left,
+                plotHeight,
+                pageWidth};
     }
     double const width = bounds.high.x - bounds.low.x;
     double const height = bounds.high.y - bounds.low.y;
@@ -122,8 +137,14 @@ Frame FrameOf(Picture const& picture) {
     double const spareX = (across * unit - width) / 2;
     double const spareY = (high * unit - height) / 2;
     Scale const up = Scale::Of(bounds.low.y - spareY, bounds.high.y + spareY);
-    return {Scale::Of(bounds.low.x - spareX, bounds.high.x + spareX), up, LeftOf(up, high), across,
-            high};
+    // The plot stands in the middle between equal margins, and the page is no wider than that
+    // needs.
+    double const left = LeftOf(up, high);
+    double const page = std::clamp(across + 2 * left, leastWidth, pageWidth);
+    double const begin =
+        std::clamp((page - across) / 2, left, std::max(left, page - across - rightMargin));
+    return {
+        Scale::Of(bounds.low.x - spareX, bounds.high.x + spareX), up, begin, across, high, page};
 }
 
 std::string Text(double x, double y, char const* anchor, std::string const& text,
@@ -153,11 +174,12 @@ std::string AxesText(Frame const& frame, Picture const& picture) {
                 Text(frame.left - 9, y + 4, "end", tick.text);
     }
     double const middle = plotTop + frame.height / 2;
+    double const aside = frame.left - LeftOf(frame.up, frame.height) + 18;
     return text + "<rect x=\"" + Number(frame.left) + "\" y=\"" + Number(plotTop) + "\" width=\"" +
            Number(frame.width) + "\" height=\"" + Number(frame.height) + "\" class=\"axis\"/>\n" +
            Text(frame.left + frame.width / 2, bottom + 42, "middle", picture.across) +
-           Text(18, middle, "middle", picture.up,
-                " transform=\"rotate(-90 18 " + Number(middle) + ")\"");
+           Text(aside, middle, "middle", picture.up,
+                " transform=\"rotate(-90 " + Number(aside) + " " + Number(middle) + ")\"");
 }
 
 /// The same line with at most four points for each half unit of the page: where it comes in, how
@@ -182,6 +204,13 @@ std::vector<Point> Thinned(std::vector<Point> const& points) {
     return kept;
 }
 
+/// Colour and dashes of a line.
+std::string StrokeOf(std::size_t number) {
+    std::string const dashes = lineDashes[number / colourCount % dashCount];
+    return std::string(" stroke=\"") + lineColours[number % colourCount] + "\"" +
+           (dashes.empty() ? "" : " stroke-dasharray=\"" + dashes + "\"");
+}
+
 std::string LineText(Frame const& frame, CurveLine const& line, std::size_t number) {
     std::string const colour = lineColours[number % colourCount];
     std::vector<Point> points;
@@ -190,7 +219,7 @@ std::string LineText(Frame const& frame, CurveLine const& line, std::size_t numb
     if (points.size() == 1)
         return "<circle cx=\"" + Number(points[0].x) + "\" cy=\"" + Number(points[0].y) +
                "\" r=\"4\" fill=\"" + colour + "\"/>\n";
-    std::string text = "<polyline class=\"line\" stroke=\"" + colour + "\" points=\"";
+    std::string text = "<polyline class=\"line\"" + StrokeOf(number) + " points=\"";
     for (std::size_t i = 0; i < points.size(); ++i)
         text += (i == 0 ? "" : " ") + Number(points[i].x) + "," + Number(points[i].y);
     return text + "\"/>\n";
@@ -233,13 +262,39 @@ std::string LegendText(Picture const& picture, double top) {
         std::size_t const row = i / 3;
         double const y = top + static_cast<double>(row) * 18;
         bool const rest = i + 1 == maxLegend && picture.lines.size() > maxLegend;
-        text += "<path d=\"M" + Number(x) + " " + Number(y - 4) + "h20\" class=\"line\" stroke=\"" +
-                lineColours[i % colourCount] + "\"/>\n" +
+        text += "<path d=\"M" + Number(x) + " " + Number(y - 4) + "h20\" class=\"line\"" +
+                StrokeOf(i) + "/>\n" +
                 Text(x + 26, y, "start",
                      rest ? "and " + std::to_string(picture.lines.size() - i) + " more"
                           : picture.lines[i].name);
     }
     return text;
+}
+
+double NotesLeft(Frame const& frame) { return frame.page < pageWidth ? 20 : plotLeft; }
+
+/// A remark in lines that the page has room for.
+std::vector<std::string> InLines(std::string const& remark, double page) {
+    std::size_t const room = static_cast<std::size_t>((page - 40) / letterWidth);
+    std::vector<std::string> lines(1);
+    for (std::size_t at = 0; at < remark.size();) {
+        std::size_t const end = std::min(remark.find(' ', at), remark.size());
+        if (!lines.back().empty() && lines.back().size() + 1 + (end - at) > room)
+            lines.emplace_back();
+        lines.back() += (lines.back().empty() ? "" : " ") + remark.substr(at, end - at);
+        at = end + 1;
+    }
+    return lines;
+}
+
+/// The title as far as there is room: without the document's step first, which all pictures of a
+/// model share.
+std::string ShortTitle(std::string const& title, double page) {
+    std::size_t const room = static_cast<std::size_t>((page - 40) / titleLetterWidth);
+    std::size_t const document = title.find("'].");
+    if (Shortened(title, room) == title || document == std::string::npos)
+        return Shortened(title, room);
+    return Shortened(title.substr(document + 3), room);
 }
 
 }  // namespace
@@ -253,17 +308,20 @@ std::string SvgText(Picture const& picture) {
         std::size_t const rows = (std::min(picture.lines.size(), maxLegend) + 2) / 3;
         bottom += 18 * static_cast<double>(rows);
     }
-    std::string note = picture.note.empty() ? picture.note : "note: " + picture.note;
-    if (picture.hasCentroid) note = "The cross is the centroid.";
-    if (!note.empty()) {
-        note = Text(plotLeft, bottom + 16, "start", note);
-        bottom += 18;
-    }
+    std::vector<std::string> remarks;
+    if (picture.hasCentroid) remarks.emplace_back("The cross is the centroid.");
+    if (!picture.note.empty()) remarks.push_back("note: " + picture.note);
+    std::string notes;
+    for (std::string const& remark : remarks)
+        for (std::string const& line : InLines(remark, frame.page)) {
+            notes += Text(NotesLeft(frame), bottom + 16, "start", line);
+            bottom += 18;
+        }
     std::string const height = Number(bottom + 10);
     std::string text =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
-        Number(pageWidth) + "\" height=\"" + height + "\" viewBox=\"0 0 " + Number(pageWidth) +
+        Number(frame.page) + "\" height=\"" + height + "\" viewBox=\"0 0 " + Number(frame.page) +
         " " + height + "\" font-family=\"sans-serif\" font-size=\"12\" fill=\"#222\">\n<title>" +
         Escaped(picture.title) +
         "</title>\n"
@@ -272,13 +330,14 @@ std::string SvgText(Picture const& picture) {
         ".section{fill:#c9d8ea;stroke:#0b5394;stroke-width:1.2;fill-rule:nonzero}"
         ".centroid{stroke:#b45309;stroke-width:1.6}</style>\n"
         "<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>\n";
-    text += Text(pageWidth / 2, 28, "middle", Shortened(picture.title, 84), " font-size=\"14\"");
+    text += Text(frame.page / 2, 28, "middle", ShortTitle(picture.title, frame.page),
+                 " font-size=\"14\"");
     text += AxesText(frame, picture);
     text += ContoursText(frame, picture.contours);
     for (std::size_t i = 0; i < picture.lines.size(); ++i)
         text += LineText(frame, picture.lines[i], i);
     if (picture.hasCentroid) text += CentroidText(frame, picture.centroid);
-    return text + legend + note + "</svg>\n";
+    return text + legend + notes + "</svg>\n";
 }
 
 }  // namespace nga

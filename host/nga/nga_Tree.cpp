@@ -23,6 +23,12 @@ std::string Counted(int count, char const* what) {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
+int SizeOfList(mdl_FieldType const& type, void const* at) {
+    return type.Kind() == mdl_FieldKind::IntList
+               ? static_cast<cls_xp1DArrayListInt const*>(at)->Size()
+               : static_cast<cls_xp1DArrayListDouble const*>(at)->Size();
+}
+
 /// As much of a text as a line of a tree has room for.
 std::string Beginning(std::string_view text) {
     constexpr std::size_t room = 60;
@@ -36,7 +42,7 @@ std::string Beginning(std::string_view text) {
     return std::string(text.substr(0, end)) + "...";
 }
 
-/// Literals as they are, tables and maps that hold something by their size.
+/// Literals as they are, tables, lists and maps that hold something by their size.
 std::string Summary(mdl_Description const& description, void const* object) {
     std::string summary;
     auto const add = [&](std::string const& text) {
@@ -59,6 +65,10 @@ std::string Summary(mdl_Description const& description, void const* object) {
             if (cells.Size() > 0) add(name + SizeText(cells));
         } else if (type.Kind() == mdl_FieldKind::FloatMap) {
             int const count = static_cast<cls_xpMapString2Float const*>(at)->Size();
+            if (count > 0) add(name + std::to_string(count));
+        } else if (type.Kind() == mdl_FieldKind::IntList ||
+                   type.Kind() == mdl_FieldKind::DoubleList) {
+            int const count = SizeOfList(type, at);
             if (count > 0) add(name + std::to_string(count));
         } else if (type.Kind() == mdl_FieldKind::String) {
             auto const& text = *static_cast<cow_String const*>(at);
@@ -192,8 +202,45 @@ std::string Padded(std::string text, std::size_t width) {
     return text;
 }
 
-std::string FieldText(mdl_Description const& owner, mdl_Field const& field, void const* at) {
+/// The first and the last elements of a list or rows of a table that is long; empty for any other
+/// value.
+std::string BriefText(mdl_Field const& field, void const* at) {
+    constexpr int shown = 4;
+    constexpr int most = 24;
     mdl_FieldType const& type = field.Type();
+    cls_xp2DArrayDouble const* cells = nullptr;
+    if (type.Kind() == mdl_FieldKind::Array)
+        cells = static_cast<cls_xp2DArrayDouble const*>(at);
+    else if (type.Kind() == mdl_FieldKind::Object && IsTable(*type.Held()))
+        cells = static_cast<cls_xp2DArrayDouble const*>(CellsOf(*type.Held()).At(at));
+    else if (type.Kind() != mdl_FieldKind::IntList && type.Kind() != mdl_FieldKind::DoubleList)
+        return std::string();
+    int const count = cells ? cells->Rows() : SizeOfList(type, at);
+    if (count <= most) return std::string();
+    auto const element = [&](int i) {
+        if (type.Kind() == mdl_FieldKind::IntList)
+            return std::to_string(static_cast<cls_xp1DArrayListInt const*>(at)->ConstGet(i));
+        if (!cells)
+            return JsonWriter::DoubleText(
+                static_cast<cls_xp1DArrayListDouble const*>(at)->ConstGet(i));
+        std::string row;
+        for (int column = 0; column < cells->Columns(); ++column)
+            row += (column == 0 ? "[" : ", ") +
+                   JsonWriter::DoubleText(cells->ConstGet().Cell(i, column));
+        return row + "]";
+    };
+    std::string text = "[";
+    for (int i = 0; i < shown; ++i) text += element(i) + ", ";
+    text += "... (" + std::to_string(count) + (cells ? " rows)" : " values)");
+    for (int i = count - shown; i < count; ++i) text += ", " + element(i);
+    return text + "]";
+}
+
+std::string FieldText(mdl_Description const& owner, mdl_Field const& field, void const* at,
+                      bool brief) {
+    mdl_FieldType const& type = field.Type();
+    if (std::string const text = brief ? BriefText(field, at) : std::string(); !text.empty())
+        return text;
     switch (type.Kind()) {
         case mdl_FieldKind::Option:
             if (!type.ConstObject(at, 0)) return "not set";
@@ -211,7 +258,7 @@ std::string FieldText(mdl_Description const& owner, mdl_Field const& field, void
     return ValueText(field, at);
 }
 
-std::string ObjectText(Selection const& selection) {
+std::string ObjectText(Selection const& selection, bool brief) {
     mdl_Description const& description = *selection.description;
     std::string text = selection.path + "  " + description.Name() + "\n";
     std::vector<mdl_Field const*> shown;
@@ -226,7 +273,7 @@ std::string ObjectText(Selection const& selection) {
     }
     for (mdl_Field const* field : shown)
         text += "  " + Padded(field->Script(), width) + "  " +
-                FieldText(description, *field, field->At(selection.object)) + "\n";
+                FieldText(description, *field, field->At(selection.object), brief) + "\n";
     return text;
 }
 
@@ -284,7 +331,7 @@ void WriteSelected(JsonWriter& writer, Document const& document, Selection const
 
 }  // namespace
 
-std::string ShowText(Document const& document, Selection const& selection) {
+std::string ShowText(Document const& document, Selection const& selection, bool brief) {
     switch (selection.what) {
         case Selection::What::Document:
         case Selection::What::Collection: {
@@ -295,7 +342,7 @@ std::string ShowText(Document const& document, Selection const& selection) {
         }
         case Selection::What::Object:
             if (!IsTable(*selection.description))
-                return ObjectText(selection) + SectionText(selection);
+                return ObjectText(selection, brief) + SectionText(selection);
             break;
         case Selection::What::Value:
             if (selection.field->Type().Kind() == mdl_FieldKind::Option) return "not set\n";

@@ -23,8 +23,9 @@ TreeNode BuildTree(Document const& document, Selection const& from);
 std::string TreeText(TreeNode const& root, bool paths);
 std::string TreeJson(TreeNode const& root);
 
-/// What a selection holds: an object with all its fields, a collection's names, or a value.
-std::string ShowText(Document const& document, Selection const& selection);
+/// What a selection holds: an object with all its fields, a collection's names, or a value. With
+/// \p brief, of a long list or table among the fields the first and the last elements.
+std::string ShowText(Document const& document, Selection const& selection, bool brief = false);
 std::string ShowJson(Document const& document, Selection const& selection);
 
 /// A field's value in one line, for people: "not set" for the values that mean that.

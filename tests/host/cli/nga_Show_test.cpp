@@ -76,14 +76,153 @@ TEST(Show, DrawsOnATerminalOrOnRequestAndNowhereElse) {
     EXPECT_EQ(filter.find(axis), std::string::npos);
 }
 
-TEST(Show, SaysWhyThereIsNoPicture) {
+TEST(Show, FailsWhereAPictureIsAskedForAndThereIsNone) {
     ToolRun const run = RunNga({"show", example, "amplitudes['forming pressure']", "--plot"});
-    EXPECT_EQ(run.code, 0);
-    EXPECT_EQ(run.out, RunNga({"show", example, "amplitudes['forming pressure']"}).out);
-    EXPECT_EQ(run.err, "no picture: the solver finds its values as it goes\n");
-    ToolRun const value = RunNga({"show", example, step + ".data[0]", "--plot"});
-    EXPECT_EQ(value.code, 0);
-    EXPECT_EQ(value.err, "no picture: only amplitudes and profiles have one\n");
+    EXPECT_EQ(run.code, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err,
+              "nga: documents['loads_and_sections'].amplitudes['forming pressure']: there is no "
+              "picture: the solver finds its values as it goes\n");
+    std::string const terminal = OnATerminal({"show", example, "amplitudes['forming pressure']"});
+    EXPECT_NE(terminal.find("maximum"), std::string::npos);
+    // The rule is said once, whatever shows the profile.
+    std::string const bad = "{\"profiles\": {\"p\": {\"class\": \"CircularProfile\"}}}";
+    TemporaryFolder const folder;
+    std::string const file = folder.Write("bad.json", bad);
+    std::string const rule = "The radius must be greater than zero.";
+    ToolRun const invalid = RunNga({"show", file, "profiles['p']", "--plot"});
+    EXPECT_EQ(invalid.code, 2);
+    std::string const all = invalid.out + invalid.err;
+    ASSERT_NE(all.find(rule), std::string::npos);
+    EXPECT_EQ(all.find(rule), all.rfind(rule)) << all;
+}
+
+TEST(Show, NamesWhatHasThePictureThatWasMeant) {
+    std::string const document = "documents['loads_and_sections'].";
+    for (char const* member : {".data", ".data[0]", ".data[0][1]", ".timeSpan"})
+        for (std::vector<std::string> const& how :
+             {std::vector<std::string>{"--plot"}, std::vector<std::string>{"-o", "-"}}) {
+            std::vector<std::string> arguments = {"show", example, step + member};
+            arguments.insert(arguments.end(), how.begin(), how.end());
+            ToolRun const run = RunNga(arguments);
+            EXPECT_EQ(run.code, 2);
+            EXPECT_EQ(run.err, "nga: " + document + step + member +
+                                   ": there is no picture: only amplitudes and profiles have one, "
+                                   "as a whole; this is a part of " +
+                                   document + step + "\n");
+        }
+    std::string const record = "amplitudes['ground acceleration (synthetic)']";
+    std::string const part =
+        RunNga({"show", example, record + ".baselineCorrection", "-o", "-"}).err;
+    EXPECT_NE(part.find("; this is a part of " + document + record + "\n"), std::string::npos)
+        << part;
+    for (std::string const collection : {"amplitudes", "profiles"})
+        EXPECT_EQ(RunNga({"show", example, collection, "-o", "-"}).err,
+                  "nga: " + document + collection +
+                      ": there is no picture: a collection has one for each object; name one of "
+                      "its objects\n");
+    EXPECT_EQ(RunNga({"show", example, "filters", "-o", "-"}).err,
+              "nga: " + document +
+                  "filters: there is no picture: only amplitudes and profiles have one\n");
+}
+
+TEST(Show, DrawsNothingOnATerminalIfThatIsRefused) {
+    std::string const shown = OnATerminal({"show", example, step, "--no-plot"});
+    EXPECT_NE(shown.find("data"), std::string::npos);
+    EXPECT_EQ(shown.find(axis), std::string::npos);
+}
+
+TEST(Show, RefusesAPictureInTwoPlacesAndAnyFileWithoutAName) {
+    TemporaryFolder const folder;
+    std::string const file = folder.Path("x.svg");
+    for (std::vector<std::string> const& more :
+         {std::vector<std::string>{"--plot", "-o", file}, {"--plot", "--no-plot"}}) {
+        std::vector<std::string> arguments = {"show", example, step};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        ToolRun const run = RunNga(arguments);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_NE(run.err.find("--plot"), std::string::npos) << run.err;
+    }
+    EXPECT_FALSE(std::filesystem::exists(file));
+    for (std::vector<std::string> const& arguments :
+         {std::vector<std::string>{"show", example, step, "-o", ""},
+          std::vector<std::string>{"export", example, "--output", ""}}) {
+        ToolRun const run = RunNga(arguments);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_NE(run.err.find("--output: the name is empty"), std::string::npos) << run.err;
+    }
+    // Nor is a document made under another name.
+    for (char const* verb : {"import", "journal"}) {
+        ToolRun const run = RunNga({verb, example, "--into", ""});
+        EXPECT_EQ(run.code, 2);
+        EXPECT_NE(run.err.find("--into: the name is empty"), std::string::npos) << run.err;
+    }
+}
+
+TEST(Show, ShortensLongListsOnATerminalAlone) {
+    std::string const record = "amplitudes['ground acceleration (synthetic)']";
+    std::string const terminal = OnATerminal({"show", example, record});
+    EXPECT_NE(terminal.find("[0.0, 0.0, 0.0, -0.001, ... (601 values), 0.022, 0.002, -0.012, "
+                            "0.027]\r\n"),
+              std::string::npos)
+        << terminal;
+    EXPECT_EQ(RunNga({"show", example, record}).out.find("..."), std::string::npos);
+    EXPECT_EQ(OnATerminal({"show", example, record, "--json"}).find("..."), std::string::npos);
+    // Whoever names the list wants it.
+    EXPECT_EQ(OnATerminal({"show", example, record + ".data"}).find("..."), std::string::npos);
+    EXPECT_EQ(OnATerminal({"show", example, step}).find("..."), std::string::npos);
+    std::string rows;
+    for (int i = 0; i < 100; ++i) rows += (i == 0 ? "[" : ", [") + std::to_string(i) + ", 0.5]";
+    TemporaryFolder const folder;
+    std::string const file = folder.Write(
+        "t.json",
+        "{\"amplitudes\": {\"t\": {\"class\": \"TabularAmplitude\", \"data\": [" + rows + "]}}}");
+    EXPECT_NE(OnATerminal({"show", file, "amplitudes['t']"})
+                  .find("[[0.0, 0.5], [1.0, 0.5], [2.0, 0.5], [3.0, 0.5], ... (100 rows), "),
+              std::string::npos);
+}
+
+TEST(Show, AndExportWriteThroughLinksOrSayWhyNot) {
+    for (bool const picture : {true, false}) {
+        TemporaryFolder const folder;
+        auto const written = [&](std::string const& file) {
+            return RunNga(picture ? std::vector<std::string>{"show", example, step, "-o", file}
+                                  : std::vector<std::string>{"export", example, "-o", file});
+        };
+        std::filesystem::create_directory(folder.Path("far"));
+        std::filesystem::create_symlink("far/new.svg", folder.Path("near.svg"));
+        std::filesystem::create_symlink("near.svg", folder.Path("nearer.svg"));
+        ToolRun const dangling = written(folder.Path("nearer.svg"));
+        EXPECT_EQ(dangling.code, 0) << dangling.err;
+        EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("near.svg")));
+        EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("nearer.svg")));
+        EXPECT_TRUE(std::filesystem::is_regular_file(folder.Path("far/new.svg")));
+        EXPECT_GT(FileContent(folder.Path("far/new.svg")).size(), 100u);
+        EXPECT_EQ(written(folder.Path("nearer.svg")).code, 0) << "and again, where there is a file";
+
+        std::filesystem::create_symlink("b.svg", folder.Path("a.svg"));
+        std::filesystem::create_symlink("a.svg", folder.Path("b.svg"));
+        std::string const loop = folder.Path("a.svg");
+        EXPECT_EQ(written(loop).err,
+                  "nga: " + loop + ": cannot write: Too many levels of symbolic links\n");
+        EXPECT_EQ(written(loop).code, 2);
+        EXPECT_TRUE(std::filesystem::is_symlink(loop));
+        std::string const below = loop + "/c.svg";
+        EXPECT_EQ(written(below).err,
+                  "nga: " + below + ": cannot write: Too many levels of symbolic links\n");
+        std::string const tooLong = folder.Path(std::string(300, 'x') + ".svg");
+        EXPECT_EQ(written(tooLong).err, "nga: " + tooLong + ": cannot write: File name too long\n");
+        std::string const nowhere = folder.Path("no/such.svg");
+        EXPECT_EQ(written(nowhere).err,
+                  "nga: " + nowhere + ": cannot write: No such file or directory\n");
+        if (geteuid() == 0) continue;
+        std::filesystem::permissions(folder.Path("far"), std::filesystem::perms::none);
+        std::string const locked = folder.Path("far/new.svg");
+        EXPECT_EQ(written(locked).err, "nga: " + locked + ": cannot write: Permission denied\n");
+        std::filesystem::permissions(folder.Path("far"), std::filesystem::perms::owner_all);
+    }
 }
 
 TEST(Show, HasNeitherPlotNorSvgBesidesJson) {
@@ -154,13 +293,41 @@ TEST(Show, GivesTheSectionOfAProfile) {
     EXPECT_EQ(i.Find("centroid")->elements[1].real, 0);
     nga::JsonNode const given = SectionOf("profiles['rib from a test']");
     EXPECT_EQ(given.Find("area")->real, 0.0012);
-    EXPECT_EQ(given.Find("polar")->real, 9.5e-09);
+    ASSERT_NE(given.Find("j"), nullptr);
+    EXPECT_EQ(given.Find("j")->real, 9.5e-09);
+    EXPECT_EQ(given.Find("polar"), nullptr) << "what users take for a torsion constant is none";
     EXPECT_EQ(given.Find("centroid"), nullptr);
+    EXPECT_EQ(i.Find("j"), nullptr);
+    std::string const rib = RunNga({"show", example, "profiles['rib from a test']"}).out;
+    EXPECT_NE(rib.find("\n    i12       0\n    j         9.5e-09\n"), std::string::npos) << rib;
+    EXPECT_EQ(rib.find("polar"), std::string::npos);
     std::string const text = RunNga({"show", example, girder}).out;
     EXPECT_NE(text.find("  section\n    area      0.00518806\n    centroid  [0, 0]\n"),
               std::string::npos)
         << text;
     EXPECT_EQ(RunNga({"show", example, step, "--json"}).out.find("section\""), std::string::npos);
+}
+
+TEST(Show, SaysWhereASectionIsApproximate) {
+    std::string const purlin = "profiles['Z purlin of 2 mm sheet']";
+    std::string const note = "approximate where segments meet at an angle";
+    EXPECT_EQ(SectionOf(purlin).Find("note")->text, note);
+    EXPECT_EQ(SectionOf(girder).Find("note"), nullptr);
+    std::string const text = RunNga({"show", example, purlin, "--plot"}).out;
+    EXPECT_NE(text.find("\n    note      " + note + "\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("\n  note: " + note + "\n"), std::string::npos) << text;
+    std::string const svg = RunNga({"show", example, purlin, "-o", "-"}).out;
+    EXPECT_NE(svg.find(">The cross is the centroid.<"), std::string::npos) << svg;
+    EXPECT_NE(svg.find(">note: " + note + "<"), std::string::npos) << svg;
+}
+
+TEST(Show, WritesGivenPropertiesThatAreNoNumbersAsTheFieldsDo) {
+    std::string const text = R"({"profiles": {"p": {"class": "GeneralizedProfile",
+        "area": "Infinity", "i11": 1.0, "i22": 1.0, "j": "Infinity"}}})";
+    std::string const shown = RunNga({"show", "-", "profiles['p']"}, text).out;
+    EXPECT_NE(shown.find("\n  area    \"Infinity\"\n"), std::string::npos) << shown;
+    EXPECT_NE(shown.find("\n    area      \"Infinity\"\n"), std::string::npos) << shown;
+    EXPECT_NE(shown.find("\n    j         \"Infinity\"\n"), std::string::npos) << shown;
 }
 
 TEST(Show, SaysWhyAProfileHasNoSection) {
@@ -200,12 +367,12 @@ TEST(Show, DrawsWhatIsOddWithoutNonsense) {
          {"constant", "at one time", "huge", "tiny", "one frequency", "no number", "empty"}) {
         ToolRun const run =
             RunNga({"show", "-", std::string("amplitudes['") + name + "']", "--plot"}, text);
-        EXPECT_EQ(run.code, 0) << name << run.err;
         std::size_t const fields = run.out.find("\n\n");
         bool const drawn = name != std::string("no number") && name != std::string("empty");
+        EXPECT_EQ(run.code, drawn ? 0 : 2) << name << run.err;
         EXPECT_EQ(fields != std::string::npos, drawn) << name << run.out << run.err;
         if (!drawn) {
-            EXPECT_EQ(run.err.rfind("no picture: ", 0), 0u) << name;
+            EXPECT_NE(run.err.find("there is no picture: "), std::string::npos) << name;
             continue;
         }
         std::string const plot = run.out.substr(fields);

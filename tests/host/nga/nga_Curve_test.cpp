@@ -213,6 +213,88 @@ TEST_F(ACurve, OfALongBeatShowsItsBeginning) {
     EXPECT_EQ(ValueAt(CurveOf(amplitude), 1), 0);
 }
 
+TEST_F(ACurve, OfAFastSineInASlowOneIsDrawnOverAHumpOfTheSlowOne) {
+    double const pi = 3.14159265358979323846;
+    kamC_Modulated amplitude;
+    amplitude.magnitude = 2;
+    amplitude.frequency1 = 150;
+    amplitude.frequency2 = -10;
+    Curve const curve = CurveOf(amplitude);
+    std::vector<Point> const points = Points(curve);
+    EXPECT_NEAR(points.back().x, pi / 10, 1e-12);
+    EXPECT_EQ(curve.note, "");
+    double highest = 0;
+    for (Point const& p : points) {
+        ASSERT_NEAR(p.y, 2 * std::sin(150 * p.x) * std::sin(-10 * p.x), 1e-12);
+        highest = std::max(highest, std::fabs(p.y));
+    }
+    EXPECT_GT(highest, 1.9) << "the middle of the hump";
+    std::swap(amplitude.frequency1, amplitude.frequency2);
+    EXPECT_EQ(Points(CurveOf(amplitude)).size(), points.size());
+    // 250 oscillations are too many.
+    amplitude.frequency1 = 1000;
+    amplitude.frequency2 = 1;
+    EXPECT_EQ(CurveOf(amplitude).note, "the beginning of a beat");
+    EXPECT_NEAR(Points(CurveOf(amplitude)).back().x, 40 * 2 * pi / 1001, 1e-12);
+    // Of equal ones there is no difference: a square of a sine.
+    amplitude.frequency1 = amplitude.frequency2 = 5;
+    EXPECT_NEAR(Points(CurveOf(amplitude)).back().x, 3 * 2 * pi / 10, 1e-12);
+    EXPECT_EQ(CurveOf(amplitude).note, "");
+}
+
+TEST_F(ACurve, FarFromTimeZeroCountsFromItsStart) {
+    kamC_Modulated amplitude;
+    amplitude.initial = 1;
+    amplitude.magnitude = 1;
+    amplitude.start = 1e8;
+    amplitude.frequency1 = 6283;
+    amplitude.frequency2 = 700;
+    Curve curve = CurveOf(amplitude);
+    std::vector<Point> points = Points(curve);
+    EXPECT_LT(points.front().x, 0);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        double const t = points[i].x;
+        ASSERT_NEAR(points[i].y, 1 + std::sin(6283 * t) * std::sin(700 * t), 1e-12);
+    }
+    EXPECT_EQ(curve.across, "step time from the start");
+    EXPECT_EQ(curve.note, "time counts from 1e+08");
+    kamC_Decay decay;
+    decay.timeSpan = kamC_Amplitude::TimeSpanEnm::TOTAL;
+    decay.maximum = 3;
+    decay.start = 1e9;
+    decay.decayTime = 1e-9;
+    curve = CurveOf(decay);
+    EXPECT_NEAR(ValueAt(curve, 1e-9), 3 / 2.718281828459045, 1e-3);
+    EXPECT_EQ(curve.across, "total time from the start");
+    kamC_Periodic series;
+    series.start = -1e8;
+    series.frequency = 1e4;
+    series.data = Table({{0, 1}});
+    curve = CurveOf(series);
+    EXPECT_NEAR(ValueAt(curve, 1e-4), std::sin(1.0), 1e-3);
+    EXPECT_EQ(curve.note, "time counts from -1e+08");
+    kamC_Tabular table;
+    table.smooth = 0;
+    table.data = Table({{1e6, 0}, {1e6 + 0.25, 1}});
+    curve = CurveOf(table);
+    EXPECT_EQ(ValueAt(curve, 0.125), 0.5);
+    EXPECT_LT(Points(curve).front().x, 0);
+    EXPECT_EQ(curve.note, "time counts from 1e+06");
+    kamC_EquallySpaced values;
+    values.begin = 1e12;
+    values.fixedInterval = 1e-5;
+    for (double const value : {1.0, 3.0, 2.0}) values.data.Append(value);
+    curve = CurveOf(values);
+    EXPECT_EQ(ValueAt(curve, 1e-5), 3);
+    EXPECT_EQ(ValueAt(curve, 2e-5), 2);
+    EXPECT_TRUE(Mentions(curve.note, "time counts from 1e+12"));
+    // Near enough for the numbers at an axis.
+    decay.start = 1;
+    decay.decayTime = 0.001;
+    EXPECT_EQ(CurveOf(decay).note, "");
+    EXPECT_EQ(CurveOf(decay).across, "total time");
+}
+
 TEST_F(ACurve, OfADecayFallsToAnEthInItsDecayTime) {
     kamC_Decay amplitude;
     amplitude.initial = 1;
@@ -237,13 +319,26 @@ TEST_F(ACurve, OfADensityIsOverFrequency) {
     EXPECT_EQ(curve.lines[0].points[1].x, 80);
     EXPECT_EQ(curve.lines[0].points[1].y, 0.04);
     EXPECT_TRUE(curve.logarithmic);
+    EXPECT_TRUE(curve.logarithmicUp);
+    EXPECT_EQ(curve.note, "");
     EXPECT_EQ(curve.across, "frequency");
+    amplitude.type = kamC_PsdDefinition::PsdTypeEnm::DB;
+    EXPECT_TRUE(CurveOf(amplitude).logarithmic);
+    EXPECT_FALSE(CurveOf(amplitude).logarithmicUp) << "decibels are logarithms";
+    EXPECT_EQ(CurveOf(amplitude).note, "");
+    amplitude.type = kamC_PsdDefinition::PsdTypeEnm::BASE;
+    amplitude.table = Table({{0, 0, 20}, {0.04, 0, 80}});
+    EXPECT_TRUE(CurveOf(amplitude).logarithmic);
+    EXPECT_FALSE(CurveOf(amplitude).logarithmicUp);
+    EXPECT_EQ(CurveOf(amplitude).note, "on a plain axis upwards, since a value is not positive");
     amplitude.table = Table({{0.01, 0, 0}, {0.04, -0.5, 80}});
     curve = CurveOf(amplitude);
     ASSERT_EQ(curve.lines.size(), 2u);
     EXPECT_EQ(curve.lines[1].name, "imaginary part");
     EXPECT_EQ(curve.lines[1].points[1].y, -0.5);
     EXPECT_FALSE(curve.logarithmic) << "zero has no logarithm";
+    EXPECT_FALSE(curve.logarithmicUp);
+    EXPECT_EQ(curve.note, "on plain axes, since a frequency is not positive");
 }
 
 TEST_F(ACurve, OfASpectrumHasALineForEachDampingRatio) {
@@ -257,6 +352,7 @@ TEST_F(ACurve, OfASpectrumHasALineForEachDampingRatio) {
     EXPECT_EQ(curve.lines[1].points[1].y, 1.5);
     EXPECT_EQ(curve.up, "velocity");
     EXPECT_TRUE(curve.logarithmic);
+    EXPECT_TRUE(curve.logarithmicUp);
 }
 
 TEST_F(ACurve, OfWhatNobodyKnowsBeforehandIsMissingWithAWordWhy) {

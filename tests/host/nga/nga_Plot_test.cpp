@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cfloat>
+#include <set>
 #include <sstream>
 
 #include "nga_Svg.h"
@@ -119,12 +120,40 @@ TEST(APlot, NamesItsLinesAndItsNote) {
     picture.lines.push_back({"imaginary part", {{0, 1}, {1, 0}}});
     picture.note = "without its smoothing";
     std::string const plot = PlotText(picture);
-    EXPECT_NE(plot.find("\n  lines: real part, imaginary part\n"), std::string::npos) << plot;
+    EXPECT_NE(plot.find("\n  lines: a real part, b imaginary part\n"), std::string::npos) << plot;
     EXPECT_NE(plot.find("\n  note: without its smoothing\n"), std::string::npos) << plot;
     std::string const svg = SvgText(picture);
     EXPECT_NE(svg.find(">real part<"), std::string::npos);
     EXPECT_NE(svg.find(">note: without its smoothing<"), std::string::npos);
     EXPECT_EQ(Count(svg, "<polyline"), 2);
+    // Each letter stands where its line ends.
+    std::vector<std::string> const dots = Dots(plot);
+    EXPECT_EQ(dots.front().substr(dots.front().size() - 2), " a") << plot;
+    EXPECT_EQ(dots.back().substr(dots.back().size() - 2), " b") << plot;
+    EXPECT_EQ(Width(dots.front()), Width(dots.back()));
+    EXPECT_EQ(Width(Dots(PlotText(Curve({{0, 0}, {1, 1}})))[0]), 60u) << "no letter for one line";
+}
+
+TEST(APlot, GivesLinesOfOneEndTheirLettersBesideEachOther) {
+    Picture picture = Curve({{0, 0}, {1, 1}});
+    for (int i = 1; i < 12; ++i) picture.lines.push_back({"x", {{0, 0.05 * i}, {1, 1}}});
+    ExpectWellFormed(picture);
+    std::string const first = Dots(PlotText(picture)).front();
+    EXPECT_EQ(first.substr(first.size() - 13), " abcdefghijkl");
+}
+
+TEST(APicture, OnLogarithmsIsStraightForAPower) {
+    Picture picture = Curve({{1, 0.001}, {10, 0.1}, {100, 10}});
+    picture.logarithmic = picture.logarithmicUp = true;
+    ExpectWellFormed(picture);
+    std::string const plot = PlotText(picture);
+    EXPECT_NE(plot.find("\n     10 ┤"), std::string::npos) << plot;
+    EXPECT_NE(plot.find("\n  0.001 ┤"), std::string::npos) << plot;
+    std::string const svg = SvgText(picture);
+    EXPECT_NE(svg.find("points=\"90.00,390.00 390.00,220.00 690.00,50.00\""), std::string::npos)
+        << svg;
+    for (char const* text : {">0.001<", ">0.01<", ">0.1<", ">1<", ">10<"})
+        EXPECT_NE(svg.find(text), std::string::npos) << text << svg;
 }
 
 TEST(APlot, NamesManyLinesInSeveralLinesOfText) {
@@ -134,7 +163,7 @@ TEST(APlot, NamesManyLinesInSeveralLinesOfText) {
     picture.lines.erase(picture.lines.begin());
     ExpectWellFormed(picture);
     std::string const plot = PlotText(picture);
-    EXPECT_NE(plot.find("  lines: damping ratio 0.0, damping ratio 0.1, "), std::string::npos);
+    EXPECT_NE(plot.find("  lines: a damping ratio 0.0, b damping ratio 0.1, "), std::string::npos);
     EXPECT_NE(plot.find("\n         "), std::string::npos) << plot;
     EXPECT_NE(plot.find(" and 8 more\n"), std::string::npos) << plot;
     EXPECT_NE(SvgText(picture).find(">and 9 more<"), std::string::npos);
@@ -154,6 +183,9 @@ TEST(APicture, OfExtremesIsWellFormed) {
     for (double const low : {5e-324, DBL_MIN, 1.0, 1e300}) {
         Picture picture = Curve({{low, 1}, {DBL_MAX, 2}});
         picture.logarithmic = true;
+        ExpectWellFormed(picture);
+        picture = Curve({{1, low}, {2, DBL_MAX}});
+        picture.logarithmicUp = true;
         ExpectWellFormed(picture);
         picture = Curve({{low, 1}});
         picture.logarithmic = true;
@@ -210,6 +242,55 @@ TEST(AnSvg, WritesNoNumbersIntoEachOther) {
         EXPECT_GT(places[i] - places[i - 1], 15 * 6) << svg;
 }
 
+TEST(AnSvg, TellsMoreLinesApartThanThereAreColours) {
+    Picture picture = Curve({{0, 0}, {1, 1}});
+    for (int i = 1; i < 12; ++i) picture.lines.push_back({"x", {{0, 0}, {1, 1.0 * i}}});
+    std::string const svg = SvgText(picture);
+    EXPECT_EQ(XmlMistake(svg), "");
+    std::set<std::string> strokes;
+    for (std::size_t at = svg.find("<polyline"); at != std::string::npos;
+         at = svg.find("<polyline", at + 1))
+        strokes.insert(svg.substr(at, svg.find("points", at) - at));
+    EXPECT_EQ(strokes.size(), 12u);
+    // Half of the lines are dashed, and so is each in the legend.
+    EXPECT_EQ(Count(svg, "stroke-dasharray"), 12);
+}
+
+TEST(AnSvg, StandsInTheMiddleOfAPageNoWiderThanItNeeds) {
+    for (Picture const& picture :
+         {Section({Rectangle(-1, -1, 1, 1)}), Section({Rectangle(0, 0, 1, 40)}),
+          Section({Rectangle(0, 0, 40, 1)}), Section({Rectangle(1e5, 0, 1e5 + 1, 2)})}) {
+        std::string const svg = SvgText(picture);
+        double page = 0, left = 0, width = 0;
+        std::istringstream(svg.substr(svg.find("width=\"") + 7)) >> page;
+        std::size_t const frame = svg.find("<rect x=\"");
+        std::istringstream(svg.substr(frame + 9)) >> left;
+        std::istringstream(svg.substr(svg.find("width=\"", frame) + 7)) >> width;
+        double const right = page - left - width;
+        EXPECT_GE(right, 25) << svg;
+        EXPECT_NEAR(left, right, 70) << svg;
+        EXPECT_TRUE(width > page / 2 || page <= 360) << svg;
+    }
+}
+
+TEST(AnSvg, KeepsItsNoteBesideTheWordOnTheCentroid) {
+    Picture picture = Section({Rectangle(0, 0, 1, 4)});
+    picture.hasCentroid = true;
+    picture.note = "approximate where segments meet at an angle";
+    for (int i = 0; i < 10; ++i) picture.note += " and elsewhere";
+    std::string const svg = SvgText(picture);
+    EXPECT_EQ(XmlMistake(svg), "");
+    EXPECT_EQ(Count(svg, ">The cross is the centroid.<"), 1);
+    EXPECT_EQ(Count(svg, ">note: approximate where"), 1) << svg;
+    // A narrow page has it in several lines, none of which is longer than the page.
+    EXPECT_EQ(Count(svg, "elsewhere"), 10);
+    for (std::string const& line : Lines(svg))
+        if (line.find("elsewhere") != std::string::npos) {
+            std::size_t const begin = line.find('>') + 1;
+            EXPECT_LE(line.find('<', begin) - begin, 60u) << line;
+        }
+}
+
 TEST(AnSvg, OfOnePointIsADot) { EXPECT_EQ(Count(SvgText(Curve({{1, 1}})), "<circle"), 1); }
 
 TEST(AnSvg, EscapesWhatXmlCannotHold) {
@@ -231,6 +312,14 @@ TEST(AnSvg, ShortensALongTitleWhereItStandsAndKeepsItWholeAsTitle) {
     EXPECT_EQ(XmlMistake(svg), "");
     EXPECT_EQ(Count(svg, picture.title), 1);
     EXPECT_EQ(Count(svg, "\xe2\x80\xa6"), 1);
+}
+
+TEST(AnSvg, LeavesTheDocumentOutOfATitleThatIsTooLong) {
+    Picture picture = Section({Rectangle(0, 0, 1, 4)});
+    picture.title = "documents['a model of some name'].profiles['one of its profiles']";
+    std::string const svg = SvgText(picture);
+    EXPECT_EQ(Count(svg, "<title>documents['a model of some name']."), 1);
+    EXPECT_EQ(Count(svg, ">profiles['one of its profiles']<"), 1) << svg;
 }
 
 TEST(AnSvg, OfASectionHasOneUnitOnBothAxesAndItsCentroid) {
