@@ -51,6 +51,7 @@ shown import hinge.json --into hinge.nga
 shown check hinge.nga
 "$nga" export hinge.nga | cmp - hinge.json
 shown tree hinge.nga
+shown show hinge.nga "documents['hinge'].sections['door hinge'].options[0]"
 
 step "A load over time, and a section with its properties, as pictures"
 shown show loads_and_sections.nga "amplitudes['smooth step']" --plot

@@ -66,10 +66,16 @@ std::string Summary(mdl_Description const& description, void const* object) {
         } else if (type.Kind() == mdl_FieldKind::FloatMap) {
             int const count = static_cast<cls_xpMapString2Float const*>(at)->Size();
             if (count > 0) add(name + std::to_string(count));
-        } else if (type.Kind() == mdl_FieldKind::IntList ||
-                   type.Kind() == mdl_FieldKind::DoubleList) {
+        } else if (type.Kind() == mdl_FieldKind::IntList) {
+            // Numbers of components, mostly: a bare count would read as one of them.
+            auto const& list = *static_cast<cls_xp1DArrayListInt const*>(at);
+            if (list.Size() > 6)
+                add(name + Counted(list.Size(), "value"));
+            else if (list.Size() > 0)
+                add(name + ValueText(*field, at));
+        } else if (type.Kind() == mdl_FieldKind::DoubleList) {
             int const count = SizeOfList(type, at);
-            if (count > 0) add(name + std::to_string(count));
+            if (count > 0) add(name + Counted(count, "value"));
         } else if (type.Kind() == mdl_FieldKind::String) {
             auto const& text = *static_cast<cow_String const*>(at);
             if (!text.IsEmpty() && std::strcmp(field->Script(), "description") == 0)
