@@ -3,22 +3,16 @@
 #include <climits>
 #include <functional>
 
-#include "cls_MetadataRegistrar.h"
 #include "mdl_Repository.h"
 #include "nex_Exception.h"
 #include "nga_SafeFile.h"
 #include "nga_SqliteDatabase.h"
 #include "nga_StoredFile.h"
-#include "omi_Singleton.h"
 #include "rom_Transporter.h"
 
 namespace nga {
 
 namespace {
-
-cls_ClassRegistrar const& Registrar() {
-    return omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
-}
 
 std::string TextOf(nex_Exception const& exception) {
     return std::string(exception.AsString().View());
@@ -60,7 +54,7 @@ bool LeftOut(mdl_Extension const& extension, SaveOptions const& options) {
 
 void FillDatabase(ddr_Model const& model, SaveOptions const& options, std::string const& part) {
     std::unique_ptr<SqliteDatabase> const database = SqliteDatabase::Build(part);
-    rom_Transporter transporter(*database, Registrar());
+    rom_Transporter transporter(*database, StoredClasses());
     ddr_Model::RegisteredExtensions().Each([&](cow_String const& name, mdl_Extension const&) {
         if (!model.HasInstance(name)) return;
         auto const& extension = model.ConstGetExtension(name);
@@ -97,7 +91,7 @@ std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp,
             database->Tables();
             database->RequireUnique(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
                                     rom_Layout::MapEntryKey);
-            rom_Transporter transporter(*database, Registrar());
+            rom_Transporter transporter(*database, StoredClasses());
             ddr_Model::RegisteredExtensions().Each(
                 [&](cow_String const& name, mdl_Extension const& prototype) {
                     rfm_Table* const table = database->FindTable(prototype.DynTypeId());
@@ -172,7 +166,7 @@ std::vector<UnreadableObject> FindUnreadable(std::string const& path) {
                     if (field == "extension") field = name.Text();
                     EachEntry(*database, static_cast<int>(map.integer),
                               [&](std::string const& key, unsigned typeId, int oid) {
-                                  rom_Transporter transporter(*database, Registrar());
+                                  rom_Transporter transporter(*database, StoredClasses());
                                   try {
                                       transporter.Read(typeId, oid);
                                   } catch (nex_Exception const& failure) {
@@ -196,7 +190,7 @@ cow_ErasedHandle ReadNamed(std::string const& path, cow_String const& repository
             throw StoreError(path, "there is no repository " + std::string(repository.View()));
         StoredFile const file(path);
         std::unique_ptr<SqliteDatabase> const database = file.Open();
-        rom_Transporter transporter(*database, Registrar());
+        rom_Transporter transporter(*database, StoredClasses());
         try {
             cow_ErasedHandle result = transporter.ReadMapElement(
                 prototype->DynTypeId(), 0, cow_String("extension"), name, elementTypeId);

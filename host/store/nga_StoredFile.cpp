@@ -17,6 +17,10 @@
 
 namespace nga {
 
+cls_ClassRegistrar const& StoredClasses() {
+    return omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
+}
+
 namespace {
 
 // Where a SQLite file's header holds what is asked of it.
@@ -30,10 +34,6 @@ enum HeaderPlace {
     UserVersionPlace = 60,
     ApplicationPlace = 68
 };
-
-cls_ClassRegistrar const& Registrar() {
-    return omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
-}
 
 std::string HexOf(unsigned typeId) {
     char text[16];
@@ -195,11 +195,11 @@ void StoredFile::CheckClass(CatalogueEntry const& entry, std::string const& writ
 
 std::optional<StoredFile::Registered> StoredFile::Known(unsigned typeId) {
     if (IsCollection(typeId)) {
-        rfm_TableMetadata const layout = rom_Layout::OfType(typeId, Registrar());
+        rfm_TableMetadata const layout = rom_Layout::OfType(typeId, StoredClasses());
         return Registered{std::string(layout.Name().View()), layout.Version(),
                           layout.ParentTypeId()};
     }
-    cls_ClassMetadata const* const metadata = Registrar().Find(typeId);
+    cls_ClassMetadata const* const metadata = StoredClasses().Find(typeId);
     if (!metadata) return std::nullopt;
     return Registered{std::string(metadata->Name().View()), metadata->Version(),
                       metadata->ParentTypeId()};
@@ -218,7 +218,7 @@ bool StoredFile::IsOld(unsigned typeId) {
 std::optional<rfm_TableMetadata> StoredFile::LayoutOf(CatalogueEntry const& entry) {
     std::optional<Registered> const known = Known(entry.typeId);
     if (!known || known->version != entry.version) return std::nullopt;
-    return rom_Layout::OfType(entry.typeId, Registrar());
+    return rom_Layout::OfType(entry.typeId, StoredClasses());
 }
 
 }  // namespace nga

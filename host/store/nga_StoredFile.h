@@ -9,6 +9,9 @@
 
 namespace nga {
 
+/// The classes of databases in this build.
+cls_ClassRegistrar const& StoredClasses();
+
 /// A file that was looked at from outside and found to be ours and readable. Failures are raised as
 /// StoreError under its path.
 class StoredFile {

@@ -170,7 +170,7 @@ dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
     return report;
 }
 
-UpgradedFile Upgrade(std::string const& path, UpgradeFileOptions const& options) {
+UpgradedFile BringToCurrent(std::string const& path, UpgradeFileOptions const& options) {
     StoredFile const file(path);
     UpgradedFile result;
     result.schema = file.Schema();
@@ -205,7 +205,7 @@ UpgradedFile Upgrade(std::string const& path, UpgradeFileOptions const& options)
 
 UpgradedFile UpgradeFile(std::string const& path, UpgradeFileOptions const& options) {
     try {
-        return Upgrade(path, options);
+        return BringToCurrent(path, options);
     } catch (nex_Exception const& exception) {
         throw StoreError(path, std::string(exception.AsString().View()));
     } catch (SqliteError const& error) {

@@ -5,6 +5,7 @@
 #include "dbc_DatabaseConverterHolder.h"
 #include "dbc_Failure.h"
 #include "dbc_KeptTable.h"
+#include "dbc_Moves.h"
 #include "omi_Singleton.h"
 
 namespace {
@@ -148,13 +149,7 @@ dbc_DatabaseConverterHolder::Running::~Running() {
 
 // ---- tables that functions keep ----------------------------------------------------------------
 
-namespace {
-
-dbc_DatabaseConverter& Run() {
-    return omi_Singleton<dbc_DatabaseConverterHolder>::Instance().GetDatabaseConverter();
-}
-
-}  // namespace
+using dbc_Moves::Run;
 
 bool dbc_KeptTable::IsOpen() const {
     auto const& holder = omi_Singleton<dbc_DatabaseConverterHolder>::Instance();

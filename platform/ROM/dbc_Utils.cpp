@@ -4,16 +4,12 @@
 #include <cstring>
 
 #include "dbc_DatabaseConverter.h"
-#include "dbc_DatabaseConverterHolder.h"
 #include "dbc_Failure.h"
 #include "dbc_Moves.h"
-#include "omi_Singleton.h"
+
+using dbc_Moves::Run;
 
 namespace {
-
-dbc_DatabaseConverter& Run() {
-    return omi_Singleton<dbc_DatabaseConverterHolder>::Instance().GetDatabaseConverter();
-}
 
 rfm_FieldHandle Column(cow_String const& field, char const* ending) {
     return rfm_FieldHandle((std::string(field.View()) + ending).c_str());
