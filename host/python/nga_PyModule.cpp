@@ -451,9 +451,20 @@ void MakeExceptions(py::module_& module) {
              "A broken rule: message, code, module, path of the object, file and line.");
 }
 
+/// Without this, __new__ gives an object around memory that nobody has made.
+void RefuseNew(py::handle type) {
+    reinterpret_cast<PyTypeObject*>(type.ptr())->tp_new = [](PyTypeObject* made, PyObject*,
+                                                             PyObject*) -> PyObject* {
+        PyErr_Format(PyExc_TypeError, "%s cannot be made by its class", made->tp_name);
+        return nullptr;
+    };
+}
+
 void DefineSession(py::module_& module) {
-    py::class_<KeptSnapshot>(module, "Snapshot");
-    py::class_<Session, SessionPointer>(module, "Session")
+    RefuseNew(py::class_<KeptSnapshot>(module, "Snapshot"));
+    py::class_<Session, SessionPointer> session(module, "Session");
+    RefuseNew(session);
+    session
         .def_static(
             "new",
             [](py::handle name) { return std::make_shared<Session>(Document::New(From(name))); })

@@ -87,6 +87,10 @@ def test_a_path_that_is_no_text_is_a_type_error(tmp_path, doc):
         with pytest.raises(TypeError):
             doc.save_as(wrong)
     doc.save_as(tmp_path / "a.nga")
+    for name in ("a\0b.nga", "a\0b.json", "", ".json"):
+        with pytest.raises(nga.StoreError) as failure:
+            nga.open(name)
+        assert failure.value.path == name and str(failure.value).startswith(name + ": ")
     with pytest.raises(TypeError, match="expected as text, not as bytes"):
         nga.open(b"a.nga")
     with pytest.raises(TypeError):
@@ -100,6 +104,10 @@ def test_a_document_is_made_by_the_functions_alone(doc):
     with pytest.raises(TypeError):
         doc.__init__(nga.new("other")._session)
     assert doc.name == "bench"
+    for inner in (type(doc._session), nga.Snapshot):
+        for make in (inner, lambda: inner.__new__(inner), lambda: object.__new__(inner)):
+            with pytest.raises(TypeError):
+                make()
 
 
 def test_a_document_takes_no_attributes(doc):
@@ -110,6 +118,8 @@ def test_a_document_takes_no_attributes(doc):
     for name in ("mine", "_session", "name", "save"):
         with pytest.raises(AttributeError):
             setattr(doc, name, 3)
+        with pytest.raises(AttributeError):
+            delattr(doc, name)
     assert not hasattr(doc, "__dict__") and doc.name == "bench"
 
 

@@ -1,5 +1,6 @@
 import copy
 import pickle
+import random
 
 import pytest
 
@@ -169,6 +170,40 @@ def test_the_script_replays_when_the_file_was_saved_meanwhile(tmp_path, doc):
     other.save_as(tmp_path / "b.nga")
     assert "nga.open" in other.journal.script
     assert run(other.journal.script).to_json() == other.to_json()
+
+
+@pytest.mark.parametrize("seed", range(12))
+def test_the_script_replays_whatever_was_done_and_saved(tmp_path, doc, seed):
+    source = random.Random(seed)
+    for number in range(4):
+        doc.Material(name=f"s{number}").Elastic(table=((number, 0.3),))
+    doc.save_as(tmp_path / "a.nga")
+    opened = nga.open(tmp_path / "a.nga")
+
+    def fail():
+        with opened.edit():
+            opened.Material(name="never")
+            raise ZeroDivisionError
+
+    def name():
+        return f"s{source.randrange(8)}"
+
+    steps = (lambda: opened.Material(name=name()), lambda: opened.materials.pop(name()),
+             lambda: opened.materials.rename(name(), name()), opened.undo, opened.redo,
+             opened.save, fail,
+             lambda: setattr(opened.materials[name()], "description", str(source.random())))
+    done = 0
+    for _ in range(40):
+        try:
+            source.choice(steps)()
+            done += 1
+        except (KeyError, ValueError, ZeroDivisionError):
+            pass
+    assert done > 10
+    assert run(opened.journal.script).to_json() == opened.to_json()
+    while opened.undo():
+        pass
+    assert opened.to_json() == doc.to_json()
 
 
 def test_names_that_change_places_come_out_right(doc):

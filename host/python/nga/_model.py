@@ -369,6 +369,9 @@ class DocumentBase:
             raise AttributeError(f"a document has no attribute {name!r} that could be set"
                                  f"{_nga.near(name, known)}")
 
+        def __delattr__(self, name):
+            raise AttributeError(f"a document has no attribute {name!r} that could be deleted")
+
     def __repr__(self):
         return f"<Document {self.path}>" if self._session.is_here else \
             "<Document of another thread>"
