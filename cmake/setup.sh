@@ -34,7 +34,8 @@ nga_setup() {
 nga_configure() {
   local preset=$1
   shift
-  local options=()
+  # Not what an earlier call of another script has left in the build.
+  local options=(-DNGA_BUILD_PYTHON=AUTO)
   if ! dpkg-query -W -f='${Status}' libgtest-dev 2>/dev/null | grep -q 'ok installed'; then
     options+=(-DNGA_BUILD_TESTS=OFF)
   else

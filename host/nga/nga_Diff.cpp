@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "cls_xp.h"
+#include "nga_Error.h"
 #include "nga_FieldLiterals.h"
 #include "nga_Path.h"
 #include "nga_Tree.h"
@@ -212,6 +213,9 @@ private:
 
 void Diff(Snapshot const& before, Snapshot const& after, std::string const& root,
           Tolerance const& tolerance, DifferenceFound const& found) {
+    // Written so that a NaN is refused too: with one, nothing would count as equal.
+    if (!(tolerance.relative >= 0) || !(tolerance.absolute >= 0))
+        throw Error("a tolerance is a number that is not negative");
     Comparer comparer(tolerance, found);
     for (std::size_t i = 0; i < Collection::All().size(); ++i) {
         Collection const& collection = *Collection::All()[i];

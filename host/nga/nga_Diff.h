@@ -56,7 +56,7 @@ private:
 };
 
 /// Tells where two contents differ, in the order of collections and names. \p root stands before
-/// each path. What the two share costs nothing.
+/// each path. What the two share costs nothing. An Error for a tolerance below zero or a NaN.
 void Diff(Snapshot const& before, Snapshot const& after, std::string const& root,
           Tolerance const& tolerance, DifferenceFound const& found);
 

@@ -6,12 +6,26 @@
 
 namespace nga {
 
-void History::Open(std::string const& why) {
+std::size_t History::Open(std::string const& why) {
     m_open.emplace_back();
+    m_open.back().number = ++m_opened;
     if (!why.empty()) m_open.back().why = why;
+    return m_opened;
 }
 
-void History::Close() {
+bool History::IsOpen(std::size_t edit) const {
+    for (Step const& step : m_open)
+        if (step.number == edit) return true;
+    return false;
+}
+
+void History::Require(std::size_t edit) const {
+    if (!IsOpen(edit)) throw Error("the edit is not open, or not any more");
+}
+
+void History::Close(std::size_t edit) {
+    Require(edit);
+    while (m_open.back().number != edit) RollBackInnermost();
     Step step = std::move(m_open.back());
     m_open.pop_back();
     if (step.kept.empty()) return;
@@ -26,7 +40,13 @@ void History::Close() {
         if (!Has(outer, *entry.collection, entry.key)) outer.kept.push_back(std::move(entry));
 }
 
-void History::RollBack() {
+void History::RollBack(std::size_t edit) {
+    Require(edit);
+    while (m_open.back().number != edit) RollBackInnermost();
+    RollBackInnermost();
+}
+
+void History::RollBackInnermost() {
     Step step = std::move(m_open.back());
     m_open.pop_back();
     for (std::size_t i = step.kept.size(); i-- > 0;)
@@ -55,6 +75,7 @@ bool History::Has(Step& step, Collection const& collection, cow_String const& ke
 }
 
 void History::Touch(Collection const& collection, cow_String const& key) {
+    if (m_open.empty()) throw Error("a write belongs to an edit, and none is open");
     Step& step = m_open.back();
     if (!Has(step, collection, key))
         step.kept.push_back({&collection, key, collection.Hold(m_model, key)});

@@ -44,11 +44,15 @@ public:
     History& operator=(History const&) = delete;
 
     /// A group of writes that is one step, or nothing if it is not closed. Edits nest: an inner one
-    /// is a part of the outer step, but can be rolled back alone.
-    void Open(std::string const& why = std::string());
-    void Close();
-    void RollBack();
+    /// is a part of the outer step, but can be rolled back alone. The number knows the edit:
+    /// whoever ends one ends that one, whatever was opened meanwhile and not ended. Inner ones that
+    /// are still open were never closed, so they are rolled back with it. An Error for an edit that
+    /// is not open.
+    std::size_t Open(std::string const& why = std::string());
+    void Close(std::size_t edit);
+    void RollBack(std::size_t edit);
     bool IsOpen() const { return !m_open.empty(); }
+    bool IsOpen(std::size_t edit) const;
 
     /// Keeps the object of this name, or that there is none, as it is before the open edit.
     void Touch(Collection const& collection, cow_String const& key);
@@ -68,6 +72,7 @@ public:
 
 private:
     struct Step {
+        std::size_t number = 0;
         std::string why;
         std::vector<KeptEntry> kept;
         /// The names in kept, once there are too many to look through.
@@ -76,10 +81,14 @@ private:
 
     static std::string NameOf(Collection const& collection, cow_String const& key);
     static bool Has(Step& step, Collection const& collection, cow_String const& key);
+    /// Refuses an edit that is not open.
+    void Require(std::size_t edit) const;
+    void RollBackInnermost();
     /// Brings a step's objects back, and keeps them as they were instead.
     void Exchange(Step& step);
 
     ddr_Model& m_model;
+    std::size_t m_opened = 0;
     std::vector<Step> m_open;
     std::vector<Step> m_done;
     std::vector<Step> m_undone;
@@ -88,11 +97,11 @@ private:
 /// An edit that is rolled back unless it is closed.
 class HistoryEdit {
 public:
-    explicit HistoryEdit(History& history) : m_history(history) { m_history.Open(); }
+    explicit HistoryEdit(History& history) : m_history(history), m_edit(history.Open()) {}
     ~HistoryEdit() {
         if (!m_isOpen) return;
         try {
-            m_history.RollBack();
+            m_history.RollBack(m_edit);
         } catch (...) {
             // Only for want of memory; the failure that brought us here goes on.
         }
@@ -101,11 +110,12 @@ public:
     HistoryEdit& operator=(HistoryEdit const&) = delete;
     void Close() {
         m_isOpen = false;
-        m_history.Close();
+        m_history.Close(m_edit);
     }
 
 private:
     History& m_history;
+    std::size_t m_edit;
     bool m_isOpen = true;
 };
 

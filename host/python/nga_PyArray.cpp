@@ -51,6 +51,26 @@ bool IsNumPyThere() {
     return there;
 }
 
+/// Masked cells have no value, though something stands in their place.
+void RefuseMasked(pybind11::array const& array) {
+    if (Py_TYPE(array.ptr()) == reinterpret_cast<PyTypeObject*>(Api().PyArray_Type_)) return;
+    pybind11::module_ const masked = pybind11::module_::import("numpy.ma");
+    if (pybind11::isinstance(array, masked.attr("MaskedArray")) &&
+        masked.attr("is_masked")(array).cast<bool>())
+        Fail(PyExc_ValueError, "the array has masked cells; expected a number in each cell");
+}
+
+/// Types wider than a double turn into infinities what does not fit.
+void RefuseOverflow(pybind11::array const& given, pybind11::array const& doubles) {
+    if (given.dtype().itemsize() <= static_cast<pybind11::ssize_t>(sizeof(double))) return;
+    pybind11::object const isInf = pybind11::module_::import("numpy").attr("isinf");
+    auto const count = [&](pybind11::array const& array) {
+        return isInf(array).attr("sum")().cast<long long>();
+    };
+    if (count(given) != count(doubles))
+        Fail(PyExc_ValueError, "a number of the array is out of range; expected double precision");
+}
+
 }  // namespace
 
 PyObject* ArrayOf(cow_2DArray<double> const& cells) {
@@ -82,6 +102,7 @@ bool FromArray(PyObject* value, cow_2DArray<double>& cells) {
     try {
         auto const array = pybind11::reinterpret_borrow<pybind11::array>(value);
         char const kind = array.dtype().kind();
+        RefuseMasked(array);
         if (kind == 'O') return false;
         if (array.ndim() != 2)
             Fail(PyExc_TypeError, "the array has " + std::to_string(array.ndim()) +
@@ -104,7 +125,13 @@ bool FromArray(PyObject* value, cow_2DArray<double>& cells) {
         auto const doubles =
             pybind11::array_t<double,
                               pybind11::array::c_style | pybind11::array::forcecast>::ensure(array);
-        if (!doubles) throw Failure();
+        if (!doubles) {
+            // ensure() has cleared what NumPy said, as with warnings that are made failures.
+            if (!PyErr_Occurred())
+                Fail(PyExc_ValueError, "the array cannot be taken as numbers in double precision");
+            throw Failure();
+        }
+        RefuseOverflow(array, doubles);
         cells =
             cow_2DArray<double>(static_cast<int>(array.shape(0)), static_cast<int>(array.shape(1)));
         if (cells.Size() > 0)

@@ -254,6 +254,13 @@ double RealFrom(PyObject* value, bool& fits) {
         PyErr_Clear();
         fits = false;
     }
+    if (std::isinf(real)) {
+        // Types wider than ours give an infinity for what does not fit instead of refusing.
+        Ref const infinity(PyFloat_FromDouble(real));
+        int const same = PyObject_RichCompareBool(value, infinity.Get(), Py_EQ);
+        if (same < 0) throw Failure();
+        if (same == 0) Fail(PyExc_OverflowError, "the number is out of range");
+    }
     return real;
 }
 

@@ -30,7 +30,8 @@ namespace {
 void RaiseError(StoreError const& failure) {
     Ref const path = ToText(failure.Path()), cause = ToText(failure.Cause());
     Ref const attributes(Py_BuildValue("{sOsO}", "path", path.Get(), "cause", cause.Get()));
-    FailWith(exceptions.storeError, failure.what(), attributes.Get());
+    // Not what(), which ends at a zero in the path.
+    FailWith(exceptions.storeError, failure.Path() + ": " + failure.Cause(), attributes.Get());
 }
 
 void RaiseError(Error const& failure) {

@@ -86,6 +86,25 @@ Ref Held(Object* owner, mdl_Field const& field, void const* at, int index) {
     return ChildObject(owner, field, index, *description);
 }
 
+std::string ClassName(mdl_Description const& description) {
+    return description.Constructor() ? description.Constructor() : description.Name();
+}
+
+bool IsA(mdl_Description const* description, mdl_Description const* wanted) {
+    while (description && description != wanted) description = description->Base();
+    return description != nullptr;
+}
+
+/// A field can be taken out of its class and called with anything, or put into another class; only
+/// the object itself knows what it is.
+Object* InstanceOf(FieldData const& data, PyObject* instance) {
+    if (!IsObject(instance) ||
+        !IsA(reinterpret_cast<Object*>(instance)->state.description, data.owner))
+        Fail(PyExc_TypeError, ClassName(*data.owner) + "." + data.field->Script() +
+                                  " is no field of a " + TypeNameOf(instance));
+    return reinterpret_cast<Object*>(instance);
+}
+
 PyObject* Get(PyObject* self, PyObject* instance, PyObject*) {
     if (!instance || instance == Py_None) {
         Py_INCREF(self);
@@ -93,7 +112,7 @@ PyObject* Get(PyObject* self, PyObject* instance, PyObject*) {
     }
     return Guarded<PyObject*>(nullptr, [&] {
         FieldData const& data = As(self)->data;
-        auto* const object = reinterpret_cast<Object*>(instance);
+        Object* const object = InstanceOf(data, instance);
         void const* const at = data.field->At(Resolve(object));
         Ref plain = PlainValue(data, at);
         if (plain) return plain.Release();
@@ -114,7 +133,7 @@ PyObject* Get(PyObject* self, PyObject* instance, PyObject*) {
 int Set(PyObject* self, PyObject* instance, PyObject* value) {
     return Guarded(-1, [&] {
         FieldData const& data = As(self)->data;
-        auto* const object = reinterpret_cast<Object*>(instance);
+        Object* const object = InstanceOf(data, instance);
         mdl_FieldKind const kind = data.field->Type().Kind();
         if (!value && kind != mdl_FieldKind::Option && kind != mdl_FieldKind::OptionList &&
             kind != mdl_FieldKind::ObjectList)
@@ -253,12 +272,11 @@ Ref ValueOf(Field* field, void const* at) {
 
 Field& FieldOf(mdl_Description const& description, PyObject* name) {
     PyObject* const found = _PyType_Lookup(ClassOf(description), name);
-    if (found && Py_TYPE(found) == fieldType) return *As(found);
+    if (found && Py_TYPE(found) == fieldType && IsA(&description, As(found)->data.owner))
+        return *As(found);
     std::string const given = FromText(name);
-    std::string const of =
-        description.Constructor() ? description.Constructor() : description.Name();
-    Fail(PyExc_AttributeError,
-         of + " has no field " + Quoted(given) + DidYouMean(given, ScriptNames(description)));
+    Fail(PyExc_AttributeError, ClassName(description) + " has no field " + Quoted(given) +
+                                   DidYouMean(given, ScriptNames(description)));
 }
 
 mdl_Field const& DescribedFieldOf(mdl_Description const& description, std::string const& script) {
@@ -324,13 +342,38 @@ Ref Put(Object* owner, std::string const& script, DescribedObject object) {
     return Held(owner, field, at, field.Type().Count(at) - 1);
 }
 
-int CountOf(Object* owner, std::string const& script) {
+void RequireHeld(mdl_Description const& owner, mdl_Field const& field,
+                 mdl_Description const& given) {
+    mdl_FieldKind const kind = field.Type().Kind();
+    bool const adopts = kind == mdl_FieldKind::Option || kind == mdl_FieldKind::OptionList ||
+                        kind == mdl_FieldKind::ObjectList;
+    if (!adopts || !IsA(&given, field.Type().Held()))
+        Fail(PyExc_TypeError,
+             ClassName(owner) + "." + field.Script() + " holds no " + ClassName(given));
+}
+
+namespace {
+
+/// The field that a view of a list stands on. Scripts can make a view of anything.
+mdl_Field const& ListFieldOf(Object* owner, std::string const& script) {
     mdl_Field const& field = DescribedFieldOf(*owner->state.description, script);
+    mdl_FieldKind const kind = field.Type().Kind();
+    if (kind != mdl_FieldKind::OptionList && kind != mdl_FieldKind::ObjectList &&
+        kind != mdl_FieldKind::Option)
+        Fail(PyExc_TypeError,
+             ClassName(*owner->state.description) + "." + script + " is no list of objects");
+    return field;
+}
+
+}  // namespace
+
+int CountOf(Object* owner, std::string const& script) {
+    mdl_Field const& field = ListFieldOf(owner, script);
     return field.Type().Count(field.At(Resolve(owner)));
 }
 
 Ref ElementOf(Object* owner, std::string const& script, int index) {
-    mdl_Field const& field = DescribedFieldOf(*owner->state.description, script);
+    mdl_Field const& field = ListFieldOf(owner, script);
     void const* const at = field.At(Resolve(owner));
     if (index < 0 || index >= field.Type().Count(at))
         Fail(PyExc_IndexError, PathOf(owner) + "." + script + " has " +

@@ -35,6 +35,10 @@ Ref Put(Object* owner, std::string const& script, DescribedObject object);
 Ref ElementOf(Object* owner, std::string const& script, int index);
 int CountOf(Object* owner, std::string const& script);
 
+/// Refuses a field that holds no objects, or none of this class.
+void RequireHeld(mdl_Description const& owner, mdl_Field const& field,
+                 mdl_Description const& given);
+
 /// Orders the rows of a table of an object.
 void SortTable(Object* object, std::string const& script, int columns);
 

@@ -164,6 +164,12 @@ void RequireKey(Session& session, Collection const& collection, std::string cons
     attributes["code"] = code;
     attributes["file"] = "";
     attributes["line"] = 0;
+    try {
+        module.fail(code);
+    } catch (nex_Exception const& failure) {
+        attributes["file"] = failure.File() ? failure.File() : "";
+        attributes["line"] = failure.Line();
+    }
     FailWith(exceptions.validationError, ScriptPath(path) + ": " + message, attributes.ptr());
 }
 
@@ -377,6 +383,9 @@ py::object MakeIn(py::handle owner, std::string const& script, unsigned typeId, 
     Object* const object = Handle(owner);
     Resolve(object);
     mdl_Field const& field = DescribedFieldOf(*object->state.description, script);
+    // A constructor of one class called on an object of another finds a field of that name,
+    // perhaps.
+    RequireHeld(*object->state.description, field, DescriptionAt(typeId));
     std::string path = PathOf(object) + FieldStep(*object->state.description, field);
     if (field.Type().Kind() != mdl_FieldKind::Option) path += IndexStep(CountOf(object, script));
     return Give(
@@ -442,9 +451,20 @@ void MakeExceptions(py::module_& module) {
              "A broken rule: message, code, module, path of the object, file and line.");
 }
 
+/// Without this, __new__ gives an object around memory that nobody has made.
+void RefuseNew(py::handle type) {
+    reinterpret_cast<PyTypeObject*>(type.ptr())->tp_new = [](PyTypeObject* made, PyObject*,
+                                                             PyObject*) -> PyObject* {
+        PyErr_Format(PyExc_TypeError, "%s cannot be made by its class", made->tp_name);
+        return nullptr;
+    };
+}
+
 void DefineSession(py::module_& module) {
-    py::class_<KeptSnapshot>(module, "Snapshot");
-    py::class_<Session, SessionPointer>(module, "Session")
+    RefuseNew(py::class_<KeptSnapshot>(module, "Snapshot"));
+    py::class_<Session, SessionPointer> session(module, "Session");
+    RefuseNew(session);
+    session
         .def_static(
             "new",
             [](py::handle name) { return std::make_shared<Session>(Document::New(From(name))); })
@@ -458,15 +478,27 @@ void DefineSession(py::module_& module) {
                         return std::make_shared<Session>(std::move(document));
                     })
         .def_property(
-            "name", [](Session& s) { return Text(s.document.Name()); },
+            "name",
+            [](Session& s) {
+                s.Enter();
+                return Text(s.document.Name());
+            },
             [](Session& s, py::handle name) {
                 s.Enter();
                 RequireName(From(name), "the document");
                 s.document.Model().Rename(Key(name));
             })
-        .def_property_readonly("file", [](Session& s) { return Text(s.document.File()); })
-        .def_property_readonly(
-            "path", [](Session& s) { return Text(ScriptPath(DocumentPath(s.document))); })
+        .def_property_readonly("file",
+                               [](Session& s) {
+                                   s.Enter();
+                                   return Text(s.document.File());
+                               })
+        .def_property_readonly("path",
+                               [](Session& s) {
+                                   s.Enter();
+                                   return Text(ScriptPath(DocumentPath(s.document)));
+                               })
+        .def_property_readonly("is_here", [](Session& s) { return s.IsHere(); })
         .def_property(
             "opening", [](Session& s) { return Text(s.opening); },
             [](Session& s, py::handle opening) { s.opening = From(opening); })
@@ -497,29 +529,40 @@ void DefineSession(py::module_& module) {
                  ++s.stamp;
                  return s.history.Redo();
              })
-        .def(
-            "counts",
-            [](Session& s) { return py::make_tuple(s.history.UndoCount(), s.history.RedoCount()); })
+        .def("counts",
+             [](Session& s) {
+                 s.Enter();
+                 return py::make_tuple(s.history.UndoCount(), s.history.RedoCount());
+             })
         .def("reasons",
              [](Session& s) {
+                 s.Enter();
                  return py::make_tuple(Text(s.history.NextUndo()), Text(s.history.NextRedo()));
              })
         .def("open_edit",
              [](Session& s, py::handle why) {
                  s.Enter();
-                 s.history.Open(From(why));
+                 return s.history.Open(From(why));
              })
         .def("close_edit",
-             [](Session& s) {
-                 s.Enter();
-                 s.history.Close();
-             })
-        .def("roll_back",
-             [](Session& s) {
+             [](Session& s, std::size_t edit) {
                  s.Enter();
                  Recording const recording(s);
                  ++s.stamp;
-                 s.history.RollBack();
+                 s.history.Close(edit);
+             })
+        .def("roll_back",
+             [](Session& s, std::size_t edit) {
+                 s.Enter();
+                 Recording const recording(s);
+                 ++s.stamp;
+                 s.history.RollBack(edit);
+             })
+        .def("drop_edit", [](Session& s, std::size_t edit) { s.Drop(edit); })
+        .def("has_edit",
+             [](Session& s, std::size_t edit) {
+                 s.Enter();
+                 return s.history.IsOpen(edit);
              })
         .def("snapshot", [](Session& s) { return std::make_unique<KeptSnapshot>(s); })
         .def("findings",
@@ -534,11 +577,20 @@ void DefineSession(py::module_& module) {
              })
         .def("import_json", Import)
         .def("records", Records)
-        .def("record_count", [](Session& s) { return s.records.size(); })
-        .def("script",
+        .def("record_count",
              [](Session& s) {
                  s.Enter();
-                 return Text(ScriptText(s.opening, s.history));
+                 return s.records.size();
+             })
+        .def("start_text",
+             [](Session& s) {
+                 s.Enter();
+                 return Text(s.StartText());
+             })
+        .def("script",
+             [](Session& s, py::handle opening) {
+                 s.Enter();
+                 return Text(ScriptText(From(opening), s.history));
              })
         .def("script_body",
              [](Session& s) {
@@ -582,11 +634,7 @@ void DefineObjects(py::module_& module) {
         Object *const object = Handle(owner), *const source = Handle(element);
         mdl_Field const& field = DescribedFieldOf(*object->state.description, From(name));
         mdl_Description const* const description = source->state.description;
-        mdl_Description const* level = description;
-        while (level && level != field.Type().Held()) level = level->Base();
-        if (!level)
-            Fail(PyExc_TypeError,
-                 std::string(field.Script()) + " holds no " + TypeNameOf(element.ptr()));
+        RequireHeld(*object->state.description, field, *description);
         DescribedObject copy(description->Copy(Resolve(source)), DescribedDeleter{description});
         return Give(Put(object, From(name), std::move(copy)));
     });
@@ -631,6 +679,10 @@ void DefineObjects(py::module_& module) {
     module.def("expression", [](py::handle handle) {
         Object* const object = Handle(handle);
         return Text(ScriptObject(*object->state.description, Resolve(object)));
+    });
+    module.def("refuse", [](py::handle message) { throw Error(From(message)); });
+    module.def("refuse_file", [](py::handle path, py::handle cause) {
+        throw StoreError(From(path), From(cause));
     });
     module.def("near", [](std::string const& given, std::vector<std::string> const& known) {
         return DidYouMean(given, known);

@@ -95,6 +95,11 @@ PyObject* GetAttribute(PyObject* self, PyObject* name) {
 }
 
 int SetAttribute(PyObject* self, PyObject* name, PyObject* value) {
+    if (PyUnicode_CompareWithASCIIString(name, "__class__") == 0)
+        return Guarded(-1, [&]() -> int {
+            Fail(PyExc_TypeError,
+                 std::string("the class of a ") + Py_TYPE(self)->tp_name + " cannot be changed");
+        });
     // A field's own setter says what is wrong with a value; only a name that is none comes here.
     if (!_PyType_Lookup(Py_TYPE(self), name))
         return Guarded(-1, [&]() -> int { RaiseNoAttribute(self, name); });

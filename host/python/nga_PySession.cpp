@@ -1,5 +1,6 @@
 #include "nga_PySession.h"
 
+#include "nga_Json.h"
 #include "nga_Names.h"
 #include "nga_Script.h"
 #include "omu_ChangeHistory.h"
@@ -16,6 +17,27 @@ void Session::RefuseThread() const {
          "the document " + Quoted(document.Name()) +
              " belongs to the thread that opened it, and cannot be used from another; open it "
              "there, or hand over its text (to_dict)");
+}
+
+std::string Session::StartText() {
+    Document start = Document::New(document.Name());
+    ddr_Model& model = start.Model();
+    for (Collection const* collection : Collection::All())
+        collection->Each(document.Model(), [&](cow_String const& key, void const*) {
+            collection->Restore(model, key, collection->Hold(document.Model(), key));
+        });
+    std::vector<EditRun> const runs = history.Runs();
+    for (std::size_t i = runs.size(); i-- > 0;)
+        for (EntryChange const& change : runs[i].changes)
+            change.collection->Restore(model, change.key, change.before);
+    return ExportJson(start);
+}
+
+void Session::RollBackDropped() {
+    Recording const recording(*this);
+    ++stamp;
+    for (std::size_t const edit : std::exchange(m_dropped, {}))
+        if (history.IsOpen(edit)) history.RollBack(edit);
 }
 
 namespace {

@@ -40,21 +40,31 @@ public:
     History history;
     /// Everything that was sent while this document was written to.
     std::deque<ChangeRecord> records;
-    /// How a script comes to the document as it was before the first step.
+    /// How a script comes to the document as it was before the first step; empty where there is no
+    /// way but the content itself, which StartText() gives.
     std::string opening;
+    /// The text of the content as it was before the first step.
+    std::string StartText();
     /// Goes up with every write: what a handle knows of addresses is good for one value.
     std::uint64_t stamp = 1;
     /// The handles of named objects, so that one object has one handle. None is owned.
     std::map<std::pair<Collection const*, std::string>, Object*> roots;
 
     /// Refuses a call from another thread.
-    void Enter() const {
-        if (PyThread_get_thread_ident() != m_thread) RefuseThread();
+    void Enter() {
+        if (!IsHere()) RefuseThread();
+        if (!m_dropped.empty()) RollBackDropped();
     }
+    bool IsHere() const { return PyThread_get_thread_ident() == m_thread; }
+    /// Has an edit taken back that nobody can end any more. Objects of Python's end at any time, in
+    /// any thread and in the midst of a reading, so this waits for the next call from our own.
+    void Drop(std::size_t edit) { m_dropped.push_back(edit); }
 
 private:
     [[noreturn]] void RefuseThread() const;
+    void RollBackDropped();
 
+    std::vector<std::size_t> m_dropped;
     unsigned long m_thread = PyThread_get_thread_ident();
 };
 

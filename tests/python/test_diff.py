@@ -88,6 +88,20 @@ def test_documents_are_compared(example):
 
 # ---- the tool ------------------------------------------------------------------------------------
 
+def test_a_tolerance_below_zero_or_without_a_value_is_refused(doc, steel):
+    before = doc.snapshot()
+    for wrong in (-1.0, float("nan"), float("-inf")):
+        for tolerance in ({"relative": wrong}, {"absolute": wrong}):
+            with pytest.raises(nga.Error, match="not negative"):
+                doc.diff(before, **tolerance)
+
+
+def test_a_difference_to_anything_else_is_a_type_error(doc):
+    for wrong in (3, None, "bench", {}):
+        with pytest.raises(TypeError, match="a snapshot or another document"):
+            doc.diff(wrong)
+
+
 pytestmark_tool = pytest.mark.skipif(not TOOL, reason="the tool is not there")
 
 
@@ -139,6 +153,8 @@ def test_the_tool_refuses_a_wrong_tolerance_or_file(files):
     a, b = files
     assert tool("diff", a, b, "--tolerance", "-1")[0] == 2
     assert tool("diff", a, b, "--tolerance", "much")[0] == 2
+    assert tool("diff", a, b, "--tolerance", "nan")[0] == 2
+    assert tool("diff", a, b, "--tolerance", "0,nan")[0] == 2
     assert tool("diff", a, "nowhere.nga")[0] == 2
 
 

@@ -1,8 +1,10 @@
 import copy
 import gc
 import pickle
+import sqlite3
 import threading
 
+import numpy
 import pytest
 
 import nga
@@ -28,6 +30,97 @@ def test_a_missing_file_is_told():
         nga.open("/nowhere/at_all.nga")
     assert failure.value.path == "/nowhere/at_all.nga"
     assert isinstance(failure.value, OSError)
+
+
+def test_a_text_that_is_no_file_is_told(tmp_path):
+    missing = str(tmp_path / "missing.json")
+    with pytest.raises(nga.StoreError, match="there is no such file") as failure:
+        nga.open(missing)
+    assert failure.value.path == missing
+    (tmp_path / "folder.json").mkdir()
+    with pytest.raises(nga.StoreError, match="directory"):
+        nga.open(tmp_path / "folder.json")
+    for text in ("", "{", "[]", "\0"):
+        (tmp_path / "broken.json").write_text(text)
+        with pytest.raises(nga.Error):
+            nga.open(tmp_path / "broken.json")
+
+
+def test_a_database_that_is_none_is_told(tmp_path):
+    with pytest.raises(nga.StoreError):
+        nga.open(tmp_path)
+    for content in (b"", b"no database", b"SQLite format 3\0" + bytes(84)):
+        (tmp_path / "broken.nga").write_bytes(content)
+        with pytest.raises(nga.StoreError) as failure:
+            nga.open(tmp_path / "broken.nga")
+        assert failure.value.path == str(tmp_path / "broken.nga") and failure.value.cause
+        assert (tmp_path / "broken.nga").read_bytes() == content
+    doc = nga.new("old")
+    doc.save_as(tmp_path / "cut.nga")
+    whole = (tmp_path / "cut.nga").read_bytes()
+    (tmp_path / "cut.nga").write_bytes(whole[:len(whole) // 2])
+    with pytest.raises(nga.StoreError):
+        nga.open(tmp_path / "cut.nga")
+
+
+def test_an_old_and_a_newer_database_say_what_to_do(tmp_path, doc):
+    doc.Material(name="steel").Elastic(table=((1.0, 2.0),))
+    for name, change, remedy in (
+            ("old", "UPDATE nga_Catalogue SET Version=200 WHERE ClassName='kmaC_Elastic'",
+             "run: nga upgrade"),
+            ("newer", "PRAGMA user_version=9999", "a newer nga is needed")):
+        path = tmp_path / f"{name}.nga"
+        doc.save_as(path)
+        database = sqlite3.connect(path)
+        database.execute(change)
+        database.commit()
+        database.close()
+        with pytest.raises(nga.StoreError, match=remedy) as failure:
+            nga.open(path)
+        assert failure.value.path == str(path)
+
+
+def test_a_path_that_is_no_text_is_a_type_error(tmp_path, doc):
+    for wrong in (b"a.nga", 3, None):
+        with pytest.raises(TypeError):
+            nga.open(wrong)
+        with pytest.raises(TypeError):
+            doc.save_as(wrong)
+    doc.save_as(tmp_path / "a.nga")
+    for name in ("a\0b.nga", "a\0b.json", "", ".json"):
+        with pytest.raises(nga.StoreError) as failure:
+            nga.open(name)
+        assert failure.value.path == name and str(failure.value).startswith(name + ": ")
+    with pytest.raises(TypeError, match="expected as text, not as bytes"):
+        nga.open(b"a.nga")
+    with pytest.raises(TypeError):
+        nga.open(tmp_path / "a.nga", name=3)
+
+
+def test_a_document_is_made_by_the_functions_alone(doc):
+    for wrong in ("x", None, doc):
+        with pytest.raises(TypeError, match="nga.new"):
+            nga.Document(wrong)
+    with pytest.raises(TypeError):
+        doc.__init__(nga.new("other")._session)
+    assert doc.name == "bench"
+    for inner in (type(doc._session), nga.Snapshot):
+        for make in (inner, lambda: inner.__new__(inner), lambda: object.__new__(inner)):
+            with pytest.raises(TypeError):
+                make()
+
+
+def test_a_document_takes_no_attributes(doc):
+    with pytest.raises(AttributeError, match="did you mean 'materials'"):
+        doc.material = 3
+    with pytest.raises(AttributeError, match="materials"):
+        doc.materials = {}
+    for name in ("mine", "_session", "name", "save"):
+        with pytest.raises(AttributeError):
+            setattr(doc, name, 3)
+        with pytest.raises(AttributeError):
+            delattr(doc, name)
+    assert not hasattr(doc, "__dict__") and doc.name == "bench"
 
 
 def test_a_repository_is_a_mapping_in_the_order_of_the_tree(doc):
@@ -73,6 +166,7 @@ def test_a_reserved_name_is_refused_with_the_library_s_words(doc):
     with pytest.raises(nga.ValidationError) as failure:
         doc.ButterworthFilter(name="Antialiasing", validate=False)
     assert failure.value.code == 6
+    assert "kflC_assert" in failure.value.file and failure.value.line > 0
     assert len(doc.filters) == 0
 
 
@@ -138,6 +232,43 @@ def test_a_document_is_pickled_and_copied(example):
     assert nga.from_dict("x", example.to_dict()).to_json() == example.to_json()
 
 
+def test_copies_do_not_stand_before_what_they_are_copies_of(doc):
+    doc.Material(name="steel")
+    text = pickle.dumps(doc)
+    copies = [copy.copy(doc), copy.deepcopy(doc), pickle.loads(text)]
+    assert [one.name for one in copies] == ["bench-copy", "bench-copy-copy",
+                                            "bench-copy-copy-copy"]
+    assert nga.documents["bench"] is doc
+    assert all(one.to_dict() == doc.to_dict() for one in copies)
+    copies[0].materials["steel"].description = "a"
+    assert doc.materials["steel"].description == ""
+    lonely = pickle.dumps(nga.new("lonely"))
+    gc.collect()
+    assert pickle.loads(lonely).name == "lonely"
+
+
+def test_content_may_hold_arrays_and_numbers_that_are_none():
+    nan, inf = float("nan"), float("inf")
+    table = [[nan, inf], [-inf, 1.0]]
+    expected = nga.Elastic(table=table, validate=False)
+    assert nga.Elastic.from_dict({"table": table}) == expected
+    assert nga.Elastic.from_dict({"table": numpy.array(table)}) == expected
+    assert nga.Elastic.from_dict({"table": list(numpy.array(table, dtype="f4"))}) == expected
+    assert nga.Elastic.from_dict({"dependencies": numpy.int64(2)}).dependencies == 2
+    bits = nga.real("NaN:fff8000000000001")
+    back = nga.Elastic.from_dict({"table": [[bits, 1.0]]}).table
+    assert back.tobytes() == numpy.array([[bits, 1.0]]).tobytes()
+    doc = nga.from_dict("x", {"materials": {"steel": {"elastic": {"table": numpy.array(table)}}}})
+    assert doc.materials["steel"].elastic == expected
+    for wrong in (object(), {1, 2}, 1j, b"x"):
+        with pytest.raises(TypeError, match="cannot stand"):
+            nga.Elastic.from_dict({"table": wrong})
+    with pytest.raises(TypeError, match="cannot be a name"):
+        nga.Elastic.from_dict({3: 1})
+    with pytest.raises(TypeError):
+        nga.from_dict("x", [])
+
+
 def test_another_thread_is_refused_and_harms_nothing(doc):
     material = doc.Material(name="steel")
     free = nga.Density(table=((1.0,),))
@@ -147,7 +278,11 @@ def test_another_thread_is_refused_and_harms_nothing(doc):
         for use in (lambda: material.description, lambda: doc.materials["steel"],
                     lambda: len(doc.materials), lambda: setattr(material, "description", "x"),
                     lambda: doc.undo(), lambda: doc.snapshot(), lambda: free.table,
-                    lambda: doc.Material(name="x"), lambda: doc.to_json()):
+                    lambda: doc.Material(name="x"), lambda: doc.to_json(),
+                    lambda: doc.name, lambda: doc.file, lambda: doc.path,
+                    lambda: doc.undo_count, lambda: doc.redo_count,
+                    lambda: doc._session.reasons(), lambda: doc.journal.records,
+                    lambda: len(doc.journal), lambda: doc.journal.script):
             try:
                 use()
             except RuntimeError as failure:
@@ -156,9 +291,23 @@ def test_another_thread_is_refused_and_harms_nothing(doc):
     thread = threading.Thread(target=misuse)
     thread.start()
     thread.join()
-    assert len(refused) == 9
+    assert len(refused) == 18
     assert all("belongs to the thread" in text for text in refused)
     assert material.description == ""
+
+
+def test_a_thread_sees_its_own_documents(doc):
+    seen = []
+
+    def look():
+        here = nga.new("there")
+        seen.extend((list(nga.documents), repr(doc), "bench" in nga.documents, here.name))
+
+    thread = threading.Thread(target=look)
+    thread.start()
+    thread.join()
+    assert seen == [["there"], "<Document of another thread>", False, "there"]
+    assert nga.documents["bench"] is doc
 
 
 def test_a_document_may_end_in_another_thread():

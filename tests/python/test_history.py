@@ -1,4 +1,5 @@
 import random
+import threading
 
 import pytest
 
@@ -63,6 +64,75 @@ def test_an_edit_without_a_change_is_no_step(doc):
     with doc.edit("nothing"):
         pass
     assert doc.undo_count == 0
+
+
+def test_an_edit_that_is_not_open_cannot_be_ended(doc):
+    for how in ((None, None, None), (ValueError, 1, None)):
+        with pytest.raises(nga.Error, match="not open"):
+            doc.edit().__exit__(*how)
+        edit = doc.edit()
+        with edit:
+            doc.Material(name=f"steel-{doc.undo_count}")
+        with pytest.raises(nga.Error, match="not open"):
+            edit.__exit__(*how)
+    assert doc.undo_count == 2
+
+
+def test_one_edit_is_not_opened_twice(doc):
+    edit = doc.edit("once")
+    with edit:
+        doc.Material(name="steel")
+        with pytest.raises(nga.Error, match="open already"):
+            edit.__enter__()
+    assert doc.undo_count == 1
+    with edit:
+        doc.Material(name="iron")
+    assert doc.undo_count == 2
+
+
+def test_an_edit_that_is_dropped_is_taken_back(doc):
+    steel = doc.Material(name="steel")
+    edit = doc.edit("never ended")
+    edit.__enter__()
+    steel.description = "a"
+    with pytest.raises(nga.Error):
+        doc.undo()
+    del edit
+    assert steel.description == ""
+    assert doc.undo() and list(doc.materials) == []
+    doc.edit().__enter__()
+    assert doc.redo() and doc.undo()
+
+
+def test_an_edit_that_another_thread_drops_is_taken_back_here(doc):
+    steel = doc.Material(name="steel")
+    box = [doc.edit()]
+    box[0].__enter__()
+    steel.description = "a"
+    thread = threading.Thread(target=box.clear)
+    thread.start()
+    thread.join()
+    assert steel.description == "" and doc.undo()
+
+
+def test_an_edit_that_ends_takes_back_what_is_open_in_it(doc):
+    steel = doc.Material(name="steel")
+    outer, inner = doc.edit("outer"), doc.edit("inner")
+    outer.__enter__()
+    steel.description = "a"
+    inner.__enter__()
+    steel.description = "b"
+    outer.__exit__(None, None, None)
+    assert steel.description == "a" and doc.undo_count == 2
+    with pytest.raises(nga.Error, match="not open"):
+        inner.__exit__(None, None, None)
+    outer, inner = doc.edit("outer"), doc.edit("inner")
+    outer.__enter__()
+    inner.__enter__()
+    steel.description = "c"
+    outer.__exit__(ValueError, ValueError(), None)
+    assert steel.description == "a"
+    assert doc.undo() and steel.description == ""
 
 
 class Model:

@@ -1,3 +1,7 @@
+import copy
+import pickle
+import random
+
 import pytest
 
 import nga
@@ -129,8 +133,77 @@ def test_the_script_begins_where_the_session_began(tmp_path, example):
     for opened in (nga.open(text), nga.open(tmp_path / "made.nga", name="other")):
         opened.Material(name="a new one")
         assert run(opened.journal.script).to_json() == opened.to_json()
-    copied = nga.from_dict("copied", example.to_dict())
-    assert copied.journal.script.splitlines()[2] == "doc = nga.documents['copied']"
+
+
+def test_the_script_of_a_document_from_no_file_holds_the_content(example):
+    for made in (nga.from_dict("copied", example.to_dict()), copy.copy(example),
+                 pickle.loads(pickle.dumps(example))):
+        made.Material(name="a new one")
+        for collection in made.collections:
+            for name in list(collection)[:1]:
+                collection.rename(name, "renamed")
+        assert made.journal.script.splitlines()[2].startswith("doc = nga.from_dict(")
+        again = run(made.journal.script)
+        assert again.to_json() == made.to_json() and again.name == made.name
+
+
+def test_the_script_replays_when_the_file_was_saved_meanwhile(tmp_path, doc):
+    doc.Material(name="steel", description="a")
+    doc.save_as(tmp_path / "a.nga")
+    opened = nga.open(tmp_path / "a.nga")
+    opened.Material(name="iron")
+    opened.materials["steel"].description = "b"
+    assert "nga.open" in opened.journal.script
+    opened.save()
+    opened.materials.rename("iron", "gold")
+    with opened.edit("open while it is asked"):
+        opened.materials["steel"].Density(table=((float("nan"),),))
+        assert run(opened.journal.script).to_json() == opened.to_json()
+    assert "nga.open" not in opened.journal.script
+    assert run(opened.journal.script).to_json() == opened.to_json()
+    while opened.undo():
+        pass
+    assert run(opened.journal.script).materials["steel"].description == "a"
+    # Under another name, what was opened is as it was.
+    other = nga.open(tmp_path / "a.nga")
+    other.Material(name="lead")
+    other.save_as(tmp_path / "b.nga")
+    assert "nga.open" in other.journal.script
+    assert run(other.journal.script).to_json() == other.to_json()
+
+
+@pytest.mark.parametrize("seed", range(12))
+def test_the_script_replays_whatever_was_done_and_saved(tmp_path, doc, seed):
+    source = random.Random(seed)
+    for number in range(4):
+        doc.Material(name=f"s{number}").Elastic(table=((number, 0.3),))
+    doc.save_as(tmp_path / "a.nga")
+    opened = nga.open(tmp_path / "a.nga")
+
+    def fail():
+        with opened.edit():
+            opened.Material(name="never")
+            raise ZeroDivisionError
+
+    def name():
+        return f"s{source.randrange(8)}"
+
+    steps = (lambda: opened.Material(name=name()), lambda: opened.materials.pop(name()),
+             lambda: opened.materials.rename(name(), name()), opened.undo, opened.redo,
+             opened.save, fail,
+             lambda: setattr(opened.materials[name()], "description", str(source.random())))
+    done = 0
+    for _ in range(40):
+        try:
+            source.choice(steps)()
+            done += 1
+        except (KeyError, ValueError, ZeroDivisionError):
+            pass
+    assert done > 10
+    assert run(opened.journal.script).to_json() == opened.to_json()
+    while opened.undo():
+        pass
+    assert opened.to_json() == doc.to_json()
 
 
 def test_names_that_change_places_come_out_right(doc):

@@ -317,3 +317,64 @@ def test_pickled_and_copied_objects_belong_to_no_document(steel):
         assert other.table.tobytes() == elastic.table.tobytes()
     with pytest.raises(nga.Error):
         nga.Elastic.from_dict({"tpe": 1})
+
+
+def test_a_field_out_of_its_class_takes_objects_of_that_class_alone(doc):
+    type_of = nga.Elastic.__dict__["type"]
+    density = nga.Density(table=((1.0,),))
+    material = doc.Material(name="steel")
+    for stranger in (3, "x", density, material, object()):
+        with pytest.raises(TypeError, match="Elastic.type is no field"):
+            type_of.__get__(stranger, int)
+        with pytest.raises(TypeError, match="Elastic.type is no field"):
+            type_of.__set__(stranger, nga.LAMINA)
+    assert density == nga.Density(table=((1.0,),))
+    elastic = nga.Elastic()
+    type_of.__set__(elastic, nga.LAMINA)
+    assert type_of.__get__(elastic) == nga.LAMINA
+    # A field of a base is one of its classes.
+    amplitude = nga.DecayAmplitude()
+    for level in type(amplitude).__mro__[1:]:
+        for name, field in vars(level).items():
+            if type(field) is type(type_of):
+                assert field.__get__(amplitude) == getattr(amplitude, name)
+
+
+def test_a_field_in_another_class_is_none_of_it():
+    try:
+        nga.Density.borrowed = nga.Elastic.__dict__["type"]
+        density = nga.Density(table=((1.0,),))
+        with pytest.raises(TypeError):
+            density.borrowed
+        with pytest.raises(TypeError):
+            density.borrowed = nga.LAMINA
+        with pytest.raises(AttributeError):
+            density.setValues(borrowed=nga.LAMINA)
+        with pytest.raises(AttributeError):
+            nga.Density(borrowed=nga.LAMINA)
+    finally:
+        del nga.Density.borrowed
+
+
+def test_an_object_keeps_its_class():
+    elastic = nga.Elastic(table=((1.0, 2.0),))
+    with pytest.raises(TypeError, match="cannot be changed"):
+        elastic.__class__ = nga.Density
+    assert type(elastic) is nga.Elastic and elastic.table.shape == (1, 2)
+    object.__dict__["__class__"].__set__(elastic, nga.Density)
+    with pytest.raises(TypeError):
+        elastic.table
+    for make in (nga.Elastic, nga.Density, nga.Object):
+        with pytest.raises(TypeError):
+            object.__new__(make)
+
+
+def test_a_constructor_of_another_class_and_a_view_of_no_list_are_refused(doc):
+    density = nga.Density(table=((1.0,),))
+    with pytest.raises((TypeError, AttributeError)):
+        nga.Elastic.FailStress(density, table=((1.0,),), validate=False)
+    for field in ("table", "dependencies", "nothing"):
+        with pytest.raises((TypeError, AttributeError)):
+            len(nga.ObjectList(density, field))
+        with pytest.raises((TypeError, AttributeError)):
+            nga.ObjectList(density, field).append(nga.Elastic())

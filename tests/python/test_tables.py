@@ -1,3 +1,5 @@
+import decimal
+import fractions
 import gc
 import subprocess
 import sys
@@ -116,3 +118,32 @@ def test_special_numbers_go_through(elastic):
     rows = numpy.array([[float("nan"), -0.0], [float("inf"), 5e-324]])
     elastic.table = rows
     assert elastic.table.tobytes() == rows.tobytes()
+
+
+def test_masked_cells_are_refused(elastic):
+    masked = numpy.ma.array([[1.0, 2.0]], mask=[[True, False]])
+    for value in (masked, masked.astype(int), list(masked)):
+        with pytest.raises((TypeError, ValueError)):
+            elastic.table = value
+    with pytest.raises(ValueError, match="masked"):
+        nga.Elastic.from_dict({"table": masked})
+    elastic.table = numpy.ma.array([[1.0, 2.0]])
+    assert elastic.table.tolist() == [[1.0, 2.0]]
+
+
+@pytest.mark.filterwarnings("ignore::RuntimeWarning")
+def test_finite_numbers_beyond_double_precision_are_refused(elastic):
+    before = elastic.table
+    large = numpy.longdouble("1e400")
+    for value in (numpy.array([[1.0, large]]), ((1.0, large),), ((1.0, decimal.Decimal("1e400")),),
+                  ((1.0, fractions.Fraction(10**400)),), ((1.0, 10**400),),
+                  {"data": ((1.0, -large),)}):
+        with pytest.raises(ValueError, match="out of range"):
+            elastic.table = value
+    with pytest.raises(ValueError, match="out of range"):
+        nga.Elastic.from_dict({"table": numpy.array([[1.0, -large]])})
+    assert (elastic.table == before).all()
+    elastic.table = numpy.array([[numpy.inf, 1.5]], dtype=numpy.longdouble)
+    assert elastic.table.tolist() == [[float("inf"), 1.5]]
+    elastic.table = ((numpy.longdouble("-inf"), decimal.Decimal("inf")),)
+    assert elastic.table.tolist() == [[float("-inf"), float("inf")]]

@@ -21,7 +21,7 @@ def make(namespace, base):
     for one in facts:
         _add_constructors(one)
     document = type("Document", (base,), {"__module__": "nga", "__doc__": base.__doc__,
-                                          "_collections": {}})
+                                          "__slots__": (), "_collections": {}})
     for index, (name, held, classes) in enumerate(_nga.collections()):
         _add_collection(document, index, name, held, classes)
     return document

@@ -2,7 +2,10 @@
 import builtins
 import collections.abc
 import json
+import math
 import os
+import pprint
+import struct
 import weakref
 from collections.abc import Mapping
 from typing import TYPE_CHECKING, Any, NamedTuple, TypeVar
@@ -54,8 +57,8 @@ MISSING = _Missing()
 # ---- documents -----------------------------------------------------------------------------------
 
 class _Documents(collections.abc.Mapping[str, "Document"]):
-    """The open documents by name, as paths begin with it. It keeps none alive; of two with one name
-    it gives the one that was opened last."""
+    """The open documents of this thread by name, as paths begin with it. It keeps none alive; of two
+    with one name it gives the one that was opened last."""
 
     def __init__(self):
         self._references = []
@@ -65,7 +68,7 @@ class _Documents(collections.abc.Mapping[str, "Document"]):
 
     def _alive(self):
         return [document for reference in self._references
-                if (document := reference()) is not None]
+                if (document := reference()) is not None and document._session.is_here]
 
     def __getitem__(self, name):
         for document in reversed(self._alive()):
@@ -87,9 +90,9 @@ class _Documents(collections.abc.Mapping[str, "Document"]):
 documents = _Documents()
 
 
-def _document(session: Any) -> "Document":
+def _document(session: Any, opened: str | None = None) -> "Document":
     from ._made import Document
-    return Document(session)
+    return Document(session, opened)
 
 
 def new(name: str) -> "Document":
@@ -97,56 +100,153 @@ def new(name: str) -> "Document":
     return _document(_nga.Session.new(name))
 
 
+def _path(path: str | os.PathLike[str]) -> str:
+    text = os.fspath(path)
+    if not isinstance(text, str):
+        raise TypeError(f"a path is expected as text, not as {type(text).__name__}; "
+                        "os.fsdecode() makes one")
+    return text
+
+
+def _read(path):
+    try:
+        with builtins.open(path, encoding="utf-8", errors="surrogateescape") as file:
+            return file.read()
+    except FileNotFoundError:
+        cause = "there is no such file"
+    except OSError as failure:
+        cause = failure.strerror or str(failure)
+    except ValueError as failure:
+        cause = str(failure)
+    _nga.refuse_file(path, cause)
+
+
 def open(path: str | os.PathLike[str], name: str | None = None) -> "Document":
     """The document of a file: a database, or a text if its name ends in .json. It is named by the
     file, or as said. Opening never writes, and a text is not written back."""
-    path = os.fspath(path)
-    if path.endswith(".json"):
-        with builtins.open(path, encoding="utf-8", errors="surrogateescape") as file:
-            text = file.read()
-        stem = os.path.splitext(os.path.basename(path))[0]
-        session = _nga.Session.from_json(name or stem, text)
+    file = _path(path)
+    if file.endswith(".json"):
+        text = _read(file)
+        stem = os.path.splitext(os.path.basename(file))[0]
+        session = _nga.Session.from_json(stem if name is None else name, text)
     else:
-        session = _nga.Session.open(path)
+        session = _nga.Session.open(file)
         if name is not None:
             session.name = name
     # How the journal's script comes to the start.
-    session.opening = f"nga.open({path!r})" if name is None else f"nga.open({path!r}, {name!r})"
-    return _document(session)
+    session.opening = f"nga.open({file!r})" if name is None else f"nga.open({file!r}, {name!r})"
+    return _document(session, os.path.abspath(file))
+
+
+def _plain(value):
+    """What JSON can say of a value: numbers that are none are texts there, and arrays lists."""
+    if isinstance(value, float):
+        if math.isfinite(value):
+            return float(value)
+        if math.isinf(value):
+            return "Infinity" if value > 0 else "-Infinity"
+        bits = struct.pack(">d", value)
+        return "NaN" if bits == _USUAL_NAN else "NaN:" + bits.hex()
+    if value is None or isinstance(value, (str, int)):
+        return value
+    if isinstance(value, Mapping):
+        for key in value:
+            if not isinstance(key, str):
+                raise TypeError(f"{key!r} ({type(key).__name__}) cannot be a name; expected a text")
+        return {key: _plain(inner) for key, inner in value.items()}
+    if isinstance(value, (list, tuple)):
+        return [_plain(inner) for inner in value]
+    if hasattr(value, "tolist") and hasattr(value, "dtype"):
+        if hasattr(value, "mask") and value.mask.any():
+            raise ValueError("the array has masked cells; expected a number in each cell")
+        if value.dtype.kind == "f" and value.dtype.itemsize > 8:
+            # The list of such an array holds scalars of its own type again.
+            narrow = value.astype("f8")
+            if ((narrow == math.inf) != (value == math.inf)).any() or \
+                    ((narrow == -math.inf) != (value == -math.inf)).any():
+                raise ValueError("a number of the array is out of range; "
+                                 "expected double precision")
+            value = narrow
+        return _plain(value.tolist())
+    raise TypeError(f"{value!r} ({type(value).__name__}) cannot stand in the content; expected "
+                    "texts, numbers, mappings, sequences and arrays")
+
+
+_USUAL_NAN = struct.pack(">d", math.nan)
+
+
+def _text_of(content):
+    if not isinstance(content, Mapping):
+        raise TypeError(f"a mapping is expected as content, not a {type(content).__name__}")
+    return json.dumps(_plain(content))
 
 
 def from_dict(name: str, content: Mapping[str, Any]) -> "Document":
-    """A document from what to_dict() gave."""
-    session = _nga.Session.from_json(name, json.dumps(content))
-    session.opening = f"nga.documents[{name!r}]"
+    """A document from what to_dict() gave. Arrays of numbers may stand for lists."""
+    session = _nga.Session.from_json(name, _text_of(content))
+    # The content may be had nowhere else, so the script begins with it.
+    session.opening = ""
     return _document(session)
 
 
+def _copy(name: str, content: Mapping[str, Any]) -> "Document":
+    """A copy of a document, under its name unless that is open."""
+    while name in documents:
+        name += "-copy"
+    return from_dict(name, content)
+
+
 class _Edit:
-    """A group of changes that is one step to undo, and none if it fails."""
+    """A group of changes that is one step to undo, and none if it fails, or if it is dropped before
+    it ends."""
+
+    __slots__ = ("_session", "_why", "_number")
 
     def __init__(self, session, why):
         self._session = session
         self._why = why
+        self._number = None
 
     def __enter__(self):
-        self._session.open_edit(self._why)
+        if self._number is not None and self._session.has_edit(self._number):
+            _nga.refuse("this edit is open already; another one begins with edit()")
+        self._number = self._session.open_edit(self._why)
         return self
 
     def __exit__(self, kind, value, trace):
+        if self._number is None:
+            _nga.refuse("the edit is not open, or not any more")
         if kind is None:
-            self._session.close_edit()
+            self._session.close_edit(self._number)
         else:
-            self._session.roll_back()
+            self._session.roll_back(self._number)
+        self._number = None
         return False
+
+    def __del__(self):
+        if self._number is not None:
+            self._session.drop_edit(self._number)
 
 
 class DocumentBase:
     """A model that a script works on: objects by name in its collections. It belongs to the thread
     that opened it. nga.new() and nga.open() make one."""
 
-    def __init__(self, session):
-        self._session = session
+    # Nothing else can be kept in a document: a mistyped name is refused, and no handle of its own
+    # keeps it alive.
+    __slots__ = ("_session", "_opened", "__weakref__")
+    _session: Any
+    _opened: str | None
+    _collections: dict[str, int] = {}
+
+    def __init__(self, session, opened=None):
+        if not isinstance(session, _nga.Session):
+            raise TypeError("nga.new() and nga.open() make documents, not the class")
+        if hasattr(self, "_session"):
+            raise TypeError("this document is made already")
+        object.__setattr__(self, "_session", session)
+        # The file that the journal's script opens, if it opens one.
+        object.__setattr__(self, "_opened", opened)
         documents._add(self)
 
     @property
@@ -170,10 +270,18 @@ class DocumentBase:
     def save(self) -> None:
         """Writes the file, whole or not at all."""
         self._session.save()
+        self._written()
 
     def save_as(self, path: str | os.PathLike[str]) -> None:
         """Writes another file, which becomes that of the document and names it."""
-        self._session.save_as(os.fspath(path))
+        self._session.save_as(_path(path))
+        self._written()
+
+    def _written(self):
+        # What the script would open is not what it was any more.
+        if self._opened is not None and os.path.exists(self._opened) and \
+                os.path.samefile(self._opened, self.file):
+            self._session.opening = ""
 
     # ---- time ----
     def edit(self, why: str = "") -> _Edit:
@@ -206,6 +314,9 @@ class DocumentBase:
         Numbers count as equal within the larger of absolute and relative times the larger one."""
         if isinstance(before, DocumentBase):
             before = before.snapshot()
+        if not isinstance(before, _nga.Snapshot):
+            raise TypeError("a document differs from a snapshot or another document, not from a "
+                            f"{type(before).__name__}")
         found = _nga.diff(before, self.snapshot(), self.path, relative, absolute, MISSING)
         return [Difference(*one) for one in found]
 
@@ -250,18 +361,33 @@ class DocumentBase:
             known = [known for known in dir(type(self)) if not known.startswith("_")]
             raise AttributeError(f"a document has no attribute {name!r}{_nga.near(name, known)}")
 
+        def __setattr__(self, name, value):
+            if name in self._collections:
+                raise AttributeError(f"the collection {name} cannot be replaced; assign to its "
+                                     "entries")
+            known = list(self._collections)
+            raise AttributeError(f"a document has no attribute {name!r} that could be set"
+                                 f"{_nga.near(name, known)}")
+
+        def __delattr__(self, name):
+            raise AttributeError(f"a document has no attribute {name!r} that could be deleted")
+
     def __repr__(self):
-        return f"<Document {self.path}>"
+        return f"<Document {self.path}>" if self._session.is_here else \
+            "<Document of another thread>"
 
     def _repr_html_(self):
         from ._html import document_html
         return document_html(self)
 
     def __reduce__(self):
-        return from_dict, (self.name, self.to_dict())
+        return _copy, (self.name, self.to_dict())
+
+    def __copy__(self):
+        return _copy(self.name, self.to_dict())
 
     def __deepcopy__(self, memo):
-        return from_dict(self.name + "-copy", self.to_dict())
+        return self.__copy__()
 
 
 class Journal(collections.abc.Sequence[tuple[Any, ...]]):
@@ -277,8 +403,20 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
 
     @property
     def script(self) -> str:
-        """A Python program that opens the document and makes the same changes."""
-        return self._document._session.script()
+        """A Python program that opens the document as it was before the first change, and makes the
+        same changes. Where there is no file of that, because the document was made from a text, or
+        was saved meanwhile over what it was opened from, the program holds the content itself."""
+        session = self._document._session
+        return session.script(session.opening or self._start())
+
+    def _start(self):
+        session = self._document._session
+        text = session.start_text()
+        content = json.loads(text)
+        # Breaking lines well is slow, and nobody reads that much.
+        shown = pprint.pformat(content, width=100, sort_dicts=False) if len(text) < 20000 else \
+            repr(content)
+        return f"nga.from_dict({session.name!r}, {shown})"
 
     @property
     def body(self) -> str:
@@ -424,7 +562,7 @@ ReferenceError when the path leads nowhere any more."""
     @classmethod
     def from_dict(cls, content: Mapping[str, Any]) -> Any:
         """An object of no document from what to_dict() gave; nothing is checked."""
-        return _nga.from_json(cls._type_id, json.dumps(content))
+        return _nga.from_json(cls._type_id, _text_of(content))
 
     def __eq__(self, other):
         if self is other:
@@ -605,7 +743,6 @@ def empty_table(columns: int) -> Any:
 def real(text: str) -> float:
     """A number from its text in a model: "NaN:" and the bits stand for a NaN other than the usual
     one."""
-    import struct
     if text.startswith("NaN:"):
         bits = text[4:]
         return struct.unpack(">d" if len(bits) == 16 else ">f", bytes.fromhex(bits))[0]

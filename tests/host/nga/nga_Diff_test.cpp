@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "nga_Error.h"
 #include "nga_Json.h"
 
 namespace {
@@ -40,6 +41,13 @@ TEST(Diff, NumbersAreNearWithinTheLargerBound) {
     EXPECT_TRUE(AreNear(infinity, infinity, {}));
     EXPECT_FALSE(AreNear(infinity, 1.0, {1.0, 1e300}));
     EXPECT_FALSE(AreNear(infinity, -infinity, {1.0, 1e300}));
+}
+
+TEST(Diff, AToleranceBelowZeroOrWithoutAValueIsRefused) {
+    for (double const wrong : {-1.0, -std::numeric_limits<double>::infinity(), std::nan("")}) {
+        EXPECT_THROW(Differences("{}", "{}", {wrong, 0.0}), nga::Error);
+        EXPECT_THROW(Differences("{}", "{}", {0.0, wrong}), nga::Error);
+    }
 }
 
 TEST(Diff, WhatIsOnOneSideOnlyIsNamed) {

@@ -55,6 +55,35 @@ TEST_F(HistoryTest, StepsAreUndoneInTurnAndDoneAgain) {
     EXPECT_EQ(m_history.UndoCount(), 3u);
 }
 
+TEST_F(HistoryTest, AnEditThatIsNotOpenCannotBeEnded) {
+    EXPECT_THROW(m_history.Close(0), nga::Error);
+    EXPECT_THROW(m_history.RollBack(1), nga::Error);
+    std::size_t const edit = m_history.Open();
+    m_history.Close(edit);
+    EXPECT_THROW(m_history.Close(edit), nga::Error);
+    std::size_t const next = m_history.Open();
+    EXPECT_THROW(m_history.RollBack(edit), nga::Error);
+    EXPECT_TRUE(m_history.IsOpen(next));
+    m_history.RollBack(next);
+    EXPECT_THROW(m_history.Touch(m_materials, "steel"), nga::Error);
+}
+
+TEST_F(HistoryTest, AnEditThatEndsTakesBackWhatIsStillOpenInIt) {
+    Insert("steel");
+    std::size_t const outer = m_history.Open();
+    Describe("steel", "a");
+    std::size_t const inner = m_history.Open();
+    Describe("steel", "b");
+    m_history.Open();
+    Describe("steel", "c");
+    m_history.Close(outer);
+    EXPECT_EQ(Description("steel"), "a");
+    EXPECT_THROW(m_history.Close(inner), nga::Error);
+    EXPECT_EQ(m_history.UndoCount(), 2u);
+    EXPECT_TRUE(m_history.Undo());
+    EXPECT_EQ(Description("steel"), "");
+}
+
 TEST_F(HistoryTest, AnEditThatIsNotClosedIsRolledBack) {
     Insert("steel");
     {
@@ -69,10 +98,10 @@ TEST_F(HistoryTest, AnEditThatIsNotClosedIsRolledBack) {
 }
 
 TEST_F(HistoryTest, InnerEditsArePartOfTheOuterStep) {
-    m_history.Open("all of it");
+    std::size_t const edit = m_history.Open("all of it");
     Insert("steel");
     Describe("steel", "a");
-    m_history.Close();
+    m_history.Close(edit);
     EXPECT_EQ(m_history.UndoCount(), 1u);
     EXPECT_EQ(m_history.NextUndo(), "all of it");
     m_history.Undo();
@@ -81,22 +110,22 @@ TEST_F(HistoryTest, InnerEditsArePartOfTheOuterStep) {
 
 TEST_F(HistoryTest, AnOpenEditKeepsUndoOut) {
     Insert("steel");
-    m_history.Open();
+    std::size_t const edit = m_history.Open();
     EXPECT_THROW(m_history.Undo(), nga::Error);
     EXPECT_THROW(m_history.Redo(), nga::Error);
-    m_history.RollBack();
+    m_history.RollBack(edit);
     EXPECT_TRUE(m_history.Undo());
 }
 
 TEST_F(HistoryTest, AnEditOfManyNamesKeepsEachOnce) {
-    m_history.Open();
+    std::size_t const edit = m_history.Open();
     for (int round = 0; round < 2; ++round)
         for (int i = 0; i < 100; ++i) {
             cow_String const name(i);
             m_history.Touch(m_materials, name);
             m_document.Materials().Insert(name, new kmaC_Material);
         }
-    m_history.Close();
+    m_history.Close(edit);
     auto const runs = m_history.Runs();
     ASSERT_EQ(runs.size(), 1u);
     EXPECT_EQ(runs[0].changes.size(), 100u);
@@ -107,9 +136,9 @@ TEST_F(HistoryTest, AnEditOfManyNamesKeepsEachOnce) {
 TEST_F(HistoryTest, RunsJoinSingleStepsAndTellBeforeAndBehind) {
     Insert("steel");
     Describe("steel", "a");
-    m_history.Open("why");
+    std::size_t const edit = m_history.Open("why");
     Describe("steel", "b");
-    m_history.Close();
+    m_history.Close(edit);
     Remove("steel");
     auto const runs = m_history.Runs();
     ASSERT_EQ(runs.size(), 3u);
@@ -129,9 +158,9 @@ TEST_F(HistoryTest, RunsJoinSingleStepsAndTellBeforeAndBehind) {
 TEST_F(HistoryTest, TheScriptTellsTheOutcomeOfEachRun) {
     Insert("steel");
     Describe("steel", "a'b");
-    m_history.Open("a reason\nin two lines");
+    std::size_t const edit = m_history.Open("a reason\nin two lines");
     Describe("steel", "c");
-    m_history.Close();
+    m_history.Close(edit);
     Insert("iron");
     Remove("iron");
     EXPECT_EQ(nga::ScriptText(nga::ScriptOpening(m_document), m_history),
