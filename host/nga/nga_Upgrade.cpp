@@ -28,7 +28,7 @@ void Inspect(std::string const& part, UpgradeOutcome& outcome) {
     }
     Document const document = Document::New(name);
     auto const pathOf = [&](std::string const& collection, std::string const& object) {
-        return DocumentPath(document) + "." + collection + "['" + object + "']";
+        return DocumentPath(document) + "." + collection + KeyStep(object);
     };
     auto const check = [&](std::string const& collection, std::string const& object,
                            unsigned typeId, void const* read) {

@@ -460,6 +460,10 @@ TEST_F(MaterialUpgrades, UserMaterialRefersToItsArraysThemselves) {
     EXPECT_EQ(after.At(userMaterial, 0, "mechanicalConstants#OID"), "1");
     EXPECT_EQ(after.At(userMaterial, 0, "thermalConstants#OID"), "0");
     EXPECT_EQ(after.Array(1), (Cells{3}));
+    auto const& report = after.Report().classes.at(userMaterial);
+    EXPECT_EQ(report.renamed.at({"mechanicalTable", "mechanicalConstants"}), 1);
+    EXPECT_EQ(report.renamed.at({"thermalTable", "thermalConstants"}), 1);
+    EXPECT_EQ(report.dropped, (std::map<std::string, long long>{{"constants", 1}}));
 }
 
 TEST_F(MaterialUpgrades, UserMaterialWithoutATableEndsTheRun) {
@@ -531,6 +535,20 @@ TEST_F(MaterialUpgrades, StabilizationMovesUpFromEvolutionToInitiation) {
     EXPECT_FALSE(after.HasColumn(damageEvolution, "damageStabilization#OID"));
     EXPECT_EQ(after.Report().classes.at(damageEvolution).dropped.count("damageStabilization"), 0u);
     EXPECT_FALSE(after.HasColumn(damageInitiation, "damageStabilization#ClassOID"));
+}
+
+TEST_F(MaterialUpgrades, StabilizationOfAnEvolutionThatNobodyHasIsDropped) {
+    Need("kmaC_DamageEvolution_869");
+    Need("kmaC_DamageInitiation_869");
+    for (int stabilization : {3, 4, 5})
+        db.Row(damageEvolution, {{"damageStabilization#ClassID", int(damageStabilization)},
+                                 {"damageStabilization#OID", stabilization}});
+    // Two share the first; it is one that is not lost.
+    for (int evolution : {0, 1, 0})
+        db.Row(damageInitiation, {{"damageEvolution#ClassID", int(damageEvolution)},
+                                  {"damageEvolution#OID", evolution}});
+    Upgraded after = Run();
+    EXPECT_EQ(after.Report().classes.at(damageEvolution).dropped.at("damageStabilization"), 1);
 }
 
 TEST_F(MaterialUpgrades, CapCreepSplitsByItsMechanism) {
