@@ -569,7 +569,9 @@ private:
         if (shown) m_console.Progress("");
         m_console.Result(m_arguments.json ? UpgradeJson(outcome) : UpgradeText(outcome));
         if (!outcome.file.backup.empty())
-            m_console.Say("the old database is " + Printable(outcome.file.backup));
+            m_console.Say(std::string(outcome.dryRun ? "the old database would be "
+                                                     : "the old database is ") +
+                          Printable(outcome.file.backup));
         return outcome.HasFindings() ? exitFindings : exitFine;
     }
 

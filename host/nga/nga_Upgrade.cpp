@@ -27,10 +27,19 @@ void Inspect(std::string const& part, UpgradeOutcome& outcome) {
         failure = error.Cause();
     }
     Document const document = Document::New(name);
-    for (UnreadableObject const& object : FindUnreadable(part))
+    auto const pathOf = [&](std::string const& collection, std::string const& object) {
+        return DocumentPath(document) + "." + collection + KeyStep(object);
+    };
+    auto const check = [&](std::string const& collection, std::string const& object,
+                           unsigned typeId, void const* read) {
+        mdl_Description const* const description = mdl_Description::Find(typeId);
+        if (!description || !read) return;
+        for (Finding& finding : Check(*description, read, pathOf(collection, object)))
+            outcome.findings.push_back(std::move(finding));
+    };
+    for (UnreadableObject const& object : FindUnreadable(part, check))
         outcome.unreadable.push_back(
-            {DocumentPath(document) + "." + object.collection + "['" + object.name + "']", "", -1,
-             object.cause, false});
+            {pathOf(object.collection, object.name), "", -1, object.cause, false});
     if (outcome.unreadable.empty())
         outcome.unreadable.push_back({DocumentPath(document), "", -1, failure, false});
 }

@@ -54,7 +54,11 @@ void RefuseJournals(std::string const& path) {
     }
 }
 
-SafeFile::SafeFile(std::string const& path) : m_path(path), m_target(path) {
+SafeFile::SafeFile(std::string const& path) : SafeFile(path, For::Writing) {}
+
+void SafeFile::RequireRoom(std::string const& path) { SafeFile const asked(path, For::Asking); }
+
+SafeFile::SafeFile(std::string const& path, For what) : m_path(path), m_target(path) {
     for (int links = 0;; ++links) {
         char letters[PATH_MAX];
         ssize_t const length = readlink(m_target.c_str(), letters, sizeof letters);
@@ -81,6 +85,11 @@ SafeFile::SafeFile(std::string const& path) : m_path(path), m_target(path) {
         Fail("it cannot be written", errno);
     }
     RefuseJournals(m_target);
+    if (what == For::Asking) {
+        if (access(m_folder.c_str(), W_OK | X_OK) != 0)
+            Fail("no file can be made in its folder", errno);
+        return;
+    }
     RemoveStale();
     Make();
 }

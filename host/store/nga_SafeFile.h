@@ -18,6 +18,9 @@ class SafeFile {
 public:
     /// Follows a symbolic link, so that the link stays and its target changes.
     explicit SafeFile(std::string const& path);
+    /// Raises what stands against making a file for the path, as far as can be told without making
+    /// one.
+    static void RequireRoom(std::string const& path);
     SafeFile(SafeFile const&) = delete;
     SafeFile& operator=(SafeFile const&) = delete;
 
@@ -40,6 +43,9 @@ private:
         Part(Part const&) = delete;
         Part& operator=(Part const&) = delete;
     };
+
+    enum class For { Writing, Asking };
+    SafeFile(std::string const& path, For what);
 
     [[noreturn]] void Fail(std::string const& what, int system) const;
     void Make();

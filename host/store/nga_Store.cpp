@@ -142,7 +142,8 @@ void EachEntry(rfm_Database& database, int map,
 
 }  // namespace
 
-std::vector<UnreadableObject> FindUnreadable(std::string const& path) {
+std::vector<UnreadableObject> FindUnreadable(std::string const& path,
+                                             ReadableObject const& readable) {
     return OnFile(path, [&] {
         StoredFile const file(path);
         std::unique_ptr<SqliteDatabase> const database = file.Open();
@@ -167,14 +168,18 @@ std::vector<UnreadableObject> FindUnreadable(std::string const& path) {
                     EachEntry(*database, static_cast<int>(map.integer),
                               [&](std::string const& key, unsigned typeId, int oid) {
                                   rom_Transporter transporter(*database, StoredClasses());
+                                  std::optional<cow_ErasedHandle> read;
                                   try {
-                                      transporter.Read(typeId, oid);
+                                      read.emplace(transporter.Read(typeId, oid));
                                   } catch (nex_Exception const& failure) {
                                       std::string const place = transporter.FailedAt();
                                       result.push_back(
                                           {field, key,
                                            (place.empty() ? "" : place + ": ") + TextOf(failure)});
+                                      return;
                                   }
+                                  if (readable)
+                                      readable(field, key, typeId, read->ErasedReferent());
                               });
                 }
             });

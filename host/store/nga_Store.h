@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,8 +42,13 @@ struct UnreadableObject {
     std::string name;
     std::string cause;
 };
-/// Reads every named object of a file by itself and lists those that fail.
-std::vector<UnreadableObject> FindUnreadable(std::string const& path);
+/// A named object that can be read, as it stands in its collection.
+using ReadableObject = std::function<void(std::string const& collection, std::string const& name,
+                                          unsigned typeId, void const* object)>;
+/// Reads every named object of a file by itself and lists those that fail; hands over the others,
+/// each for the time of the call.
+std::vector<UnreadableObject> FindUnreadable(std::string const& path,
+                                             ReadableObject const& readable = {});
 
 /// Reads one object of a repository by its name, and what it refers to, and nothing else. A handle
 /// on nothing if there is no object of the name.

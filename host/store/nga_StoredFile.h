@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "cls_ClassRegistrar.h"
 #include "nga_FileStamp.h"
 #include "nga_SqliteDatabase.h"
 

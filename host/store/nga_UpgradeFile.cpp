@@ -16,6 +16,7 @@
 #include "ddr_Model.h"
 #include "nex_Exception.h"
 #include "nga_SafeFile.h"
+#include "nga_ScratchFile.h"
 #include "nga_SqliteDatabase.h"
 #include "nga_StoreError.h"
 #include "nga_StoredFile.h"
@@ -75,37 +76,28 @@ void CopyFile(std::string const& from, std::string const& to) {
         throw StoreError(from, std::string("it cannot be copied: ") + std::strerror(errno));
 }
 
-/// A file in the folder for such, which goes with this object.
-class Scratch {
-public:
-    explicit Scratch(std::string const& of) {
-        std::error_code ignored;
-        std::string pattern =
-            (std::filesystem::temp_directory_path(ignored) / "nga-dry-run-XXXXXX").string();
-        int const file = mkstemp(pattern.data());
-        if (file < 0)
-            throw StoreError(
-                of, std::string("there is no room for a scratch copy: ") + std::strerror(errno));
-        close(file);
-        m_path = pattern;
-    }
-    ~Scratch() { unlink(m_path.c_str()); }
-    Scratch(Scratch const&) = delete;
-    Scratch& operator=(Scratch const&) = delete;
-    std::string const& Path() const { return m_path; }
+std::string BackupName(std::string const& path, int schema, int number) {
+    std::string const name = path + ".schema-" + std::to_string(schema) + ".bak";
+    return number == 1 ? name : name + "." + std::to_string(number);
+}
 
-private:
-    std::string m_path;
-};
+// Where the old file would stay if it were kept now.
+std::string FreeBackup(std::string const& path, int schema) {
+    for (int number = 1; number <= backupsAtMost; ++number) {
+        std::string backup = BackupName(path, schema, number);
+        struct stat state;
+        if (lstat(backup.c_str(), &state) != 0) return backup;
+    }
+    throw StoreError(path, "there are too many old files beside it");
+}
 
 // Gives the old file a second name, under which it stays, or copies it where it cannot have one.
 std::string KeepBeside(std::string const& path, int schema) {
     std::error_code ignored;
     std::filesystem::path const real = std::filesystem::canonical(path, ignored);
     std::string const source = real.empty() ? path : real.string();
-    std::string const name = path + ".schema-" + std::to_string(schema) + ".bak";
     for (int number = 1; number <= backupsAtMost; ++number) {
-        std::string const backup = number == 1 ? name : name + "." + std::to_string(number);
+        std::string const backup = BackupName(path, schema, number);
         if (link(source.c_str(), backup.c_str()) == 0) return backup;
         if (errno == EEXIST) continue;
         struct stat state;
@@ -185,8 +177,10 @@ UpgradedFile BringToCurrent(std::string const& path, UpgradeFileOptions const& o
     }
     Work const work{file, options};
     if (options.dryRun) {
-        Scratch const scratch(path);
+        SafeFile::RequireRoom(options.output.empty() ? path : options.output);
+        ScratchFile const scratch(path);
         result.report = Convert(work, scratch.Path());
+        if (options.output.empty()) result.backup = FreeBackup(path, result.schema);
         return result;
     }
     SafeFile target(options.output.empty() ? path : options.output);

@@ -28,8 +28,9 @@ struct UpgradedFile {
     int schema = 0;        ///< of the old file
     std::string writer;    ///< of the old file
     bool current = false;  ///< it was of the current schema, and nothing was done
-    std::string backup;    ///< where the old file is now; empty if it is where it was
-    long long rows = 0;    ///< of all tables of the old file
+    /// Where the old file is now, or would be after a dry run; empty if it stays where it was.
+    std::string backup;
+    long long rows = 0;  ///< of all tables of the old file
     dbc_UpgradeReport report;
 };
 

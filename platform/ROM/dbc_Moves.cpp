@@ -21,9 +21,17 @@ bool IsSetAndHas(dbc_Row const& in, rfm_FieldHandle const& field) {
 
 namespace {
 
-void NoteMove(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& from,
-              rfm_FieldHandle const& to) {
-    if (in.IsSet(from) && from.Number() != to.Number()) out.NoteMove(from, to);
+// What has no value becomes 0, which the report is to tell.
+void CopyInt(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& from,
+             rfm_FieldHandle const& to) {
+    out.SetInt(to, in.GetInt(from));
+    if (!in.IsSet(from)) out.NoteZero(to);
+}
+
+void CopyDouble(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& from,
+                rfm_FieldHandle const& to) {
+    out.SetDouble(to, in.GetDouble(from));
+    if (!in.IsSet(from)) out.NoteZero(to);
 }
 
 // A reference that has no value stays without one: 0 would be a row.
@@ -39,27 +47,27 @@ void CopyOrClear(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& from,
 
 void MoveInt(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& from,
              rfm_FieldHandle const& to) {
-    out.SetInt(to, in.GetInt(from));
-    NoteMove(in, out, from, to);
+    CopyInt(in, out, from, to);
+    out.NoteMove(in, from, to);
 }
 
 void MoveDouble(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& from,
                 rfm_FieldHandle const& to) {
-    out.SetDouble(to, in.GetDouble(from));
-    NoteMove(in, out, from, to);
+    CopyDouble(in, out, from, to);
+    out.NoteMove(in, from, to);
 }
 
 void MoveString(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& from,
                 rfm_FieldHandle const& to) {
     out.SetString(to, in.GetString(from));
-    NoteMove(in, out, from, to);
+    out.NoteMove(in, from, to);
 }
 
 void MoveObject(dbc_Row const& in, dbc_Row& out, dbc_ObjectField const& from,
                 dbc_ObjectField const& to) {
     CopyOrClear(in, out, from.classId, to.classId);
     CopyOrClear(in, out, from.oid, to.oid);
-    NoteMove(in, out, from.oid, to.oid);
+    out.NoteMove(in, from.oid, to.oid);
 }
 
 void MoveObjectAs(dbc_Row const& in, dbc_Row& out, dbc_ObjectField const& from,
@@ -67,15 +75,15 @@ void MoveObjectAs(dbc_Row const& in, dbc_Row& out, dbc_ObjectField const& from,
     if (!in.IsSet(from.oid)) return;
     out.SetInt(to.oid, in.GetInt(from.oid));
     out.SetInt(to.classId, static_cast<int>(typeId));
-    NoteMove(in, out, from.oid, to.oid);
+    out.NoteMove(in, from.oid, to.oid);
 }
 
 void CopyInt(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& field) {
-    out.SetInt(field, in.GetInt(field));
+    CopyInt(in, out, field, field);
 }
 
 void CopyDouble(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& field) {
-    out.SetDouble(field, in.GetDouble(field));
+    CopyDouble(in, out, field, field);
 }
 
 void CopyString(dbc_Row const& in, dbc_Row& out, rfm_FieldHandle const& field) {
@@ -178,7 +186,7 @@ void MovePotentials(dbc_Row const& in, dbc_Row& out, dbc_ObjectField const& from
         element->SetInt(classId, static_cast<int>(potentialTypeId));
         if (isSet) element->SetInt(oid, value);
     }
-    out.NoteMove(from.oid, to.oid);
+    out.NoteMove(in, from.oid, to.oid);
 }
 
 }  // namespace dbc_Moves

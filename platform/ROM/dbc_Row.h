@@ -42,8 +42,12 @@ public:
 
     /// "row 3 of table kmaC_Plastic", for failures.
     virtual std::string Where() const = 0;
-    /// Tells the report that this row has in \p to what it had in \p from.
-    virtual void NoteMove(rfm_FieldHandle const& from, rfm_FieldHandle const& to) = 0;
+    /// Tells the report that this row has in \p to what a row of the input has in \p from, which is
+    /// not lost with that row's column then. A source without a value is passed over.
+    virtual void NoteMove(dbc_Row const& source, rfm_FieldHandle const& from,
+                          rfm_FieldHandle const& to) = 0;
+    /// Tells the report that this row got a 0 because its source has no value.
+    virtual void NoteZero(rfm_FieldHandle const& to) = 0;
     /// Tells the report something about this row that a person should know.
     virtual void Note(char const* text) = 0;
     /// The identity of the row's object, 16 bytes; empty if it has none.

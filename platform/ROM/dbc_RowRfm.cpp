@@ -119,7 +119,7 @@ void dbc_RowRfm::Carry(dbc_RowRfm const& from) {
         }
         m_values[i] = value;
     }
-    m_table.CountDropped(from, *m_between);
+    from.m_table.CountDropped(from, *m_between);
 }
 
 void dbc_RowRfm::MapClasses(std::vector<int> const& columns) {
@@ -318,9 +318,16 @@ std::string dbc_RowRfm::Where() const {
     return "Row " + std::to_string(m_oid) + " of table " + m_table.Name();
 }
 
-void dbc_RowRfm::NoteMove(rfm_FieldHandle const& from, rfm_FieldHandle const& to) {
-    m_table.NoteMove(from, to);
+void dbc_RowRfm::NoteMove(dbc_Row const& source, rfm_FieldHandle const& from,
+                          rfm_FieldHandle const& to) {
+    // All rows of a run are of this class; asking each would cost more than the move.
+    auto const& in = static_cast<dbc_RowRfm const&>(source);
+    if (!dbc_WorkTable::IsHeld(in.Get(from))) return;
+    if (from.Number() != to.Number()) m_table.NoteMove(from, to);
+    in.m_table.NoteTaken(from, in.m_oid, &in.m_table != &m_table);
 }
+
+void dbc_RowRfm::NoteZero(rfm_FieldHandle const& to) { m_table.NoteZero(to); }
 
 void dbc_RowRfm::Note(char const* text) {
     dbc_ClassReport::Note& note = m_table.Report().notes[text];

@@ -60,7 +60,9 @@ public:
     int Oid() const override { return m_oid; }
     void ReleaseRow() const override;
     std::string Where() const override;
-    void NoteMove(rfm_FieldHandle const& from, rfm_FieldHandle const& to) override;
+    void NoteMove(dbc_Row const& source, rfm_FieldHandle const& from,
+                  rfm_FieldHandle const& to) override;
+    void NoteZero(rfm_FieldHandle const& to) override;
     void Note(char const* text) override;
     std::string Uid() const override;
     void SetUid(std::string const& bytes) override;

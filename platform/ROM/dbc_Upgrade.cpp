@@ -159,6 +159,23 @@ void dbc_Upgrade::RunStep(int version, dbc_Converter const& step) {
     m_converter.EndStep();
 }
 
+void dbc_Upgrade::StartTarget(unsigned typeId, std::string const& source) {
+    dbc_WorkTable const& table = m_converter.Tables().Of(typeId);
+    if (table.Exists() && table.Storage()->RowCount() > 0)
+        dbc_Fail("The database holds table " + table.Name() + " and table " + source +
+                 ", whose rows it should get.");
+    rfm_TableMetadata const* const layout = m_converter.Layouts().InForce(typeId, versionOfRenames);
+    if (!layout) return;
+    if (table.Exists()) {
+        if (table.Version() == layout->Version()) return;
+        // Of a later version it would keep its rows from the steps that lead there.
+        m_converter.Tables().Drop(typeId);
+    }
+    dbc_WorkTable& made = m_converter.Tables().Of(typeId);
+    made.Report().versions.clear();
+    made.Create(*layout);
+}
+
 void dbc_Upgrade::RenameTables() {
     if (m_renamed.empty()) return;
     std::vector<std::pair<unsigned, unsigned>> renames;
@@ -166,13 +183,7 @@ void dbc_Upgrade::RenameTables() {
         unsigned const oldId = old->layout.TypeId();
         cow_String const newName(*m_converter.ClassNames().ConstFind(old->layout.Name()));
         unsigned const newId = m_converter.Layouts().TypeIdOf(newName);
-        dbc_WorkTable& table = m_converter.Tables().Of(newId);
-        if (table.Exists() && table.Storage()->RowCount() > 0)
-            dbc_Fail("The database holds table " + table.Name() + " and table " +
-                     old->layout.Name().Text() + ", whose rows it should get.");
-        rfm_TableMetadata const* const layout =
-            m_converter.Layouts().InForce(newId, versionOfRenames);
-        if (layout && !table.Exists()) table.Create(*layout);
+        StartTarget(newId, old->layout.Name().Text());
         renames.emplace_back(oldId, newId);
     }
     m_converter.StartStep(versionOfRenames);
@@ -227,16 +238,30 @@ struct Default {
     std::string literal;  ///< of an enumeration
 };
 
-std::vector<Default> DefaultsOf(mdl_Description const& description,
-                                rfm_TableMetadata const& layout) {
+// A class of which there are objects, with the fields of that one; null if there is none.
+mdl_Description const* ConcreteOf(mdl_Description const& description,
+                                  cls_ClassRegistrar const& current) {
+    if (!description.IsAbstract()) return &description;
+    for (cls_ClassMetadata const* metadata : current.Classes()) {
+        mdl_Description const* const other = mdl_Description::Find(metadata->TypeId());
+        if (!other || other->IsAbstract()) continue;
+        for (mdl_Description const* base = other->Base(); base; base = base->Base())
+            if (base->TypeId() == description.TypeId()) return other;
+    }
+    return nullptr;
+}
+
+std::vector<Default> DefaultsOf(mdl_Description const& description, rfm_TableMetadata const& layout,
+                                cls_ClassRegistrar const& current) {
     std::vector<Default> result;
-    if (description.IsAbstract()) return result;
-    void* const object = description.Create();
+    mdl_Description const* const concrete = ConcreteOf(description, current);
+    if (!concrete) return result;
+    void* const object = concrete->Create();
     struct Owner {
         mdl_Description const& description;
         void* object;
         ~Owner() { description.Destroy(object); }
-    } const owner{description, object};
+    } const owner{*concrete, object};
     for (mdl_Field const& field : description.Fields()) {
         int const column = layout.Find(cow_String(field.Name()));
         if (column < 0) continue;
@@ -273,7 +298,10 @@ void dbc_Upgrade::CompleteTable(dbc_WorkTable& table) {
     mdl_Description const* const description = mdl_Description::Find(table.TypeId());
     if (!description) return;
     rfm_Table& storage = *table.Storage();
-    std::vector<Default> defaults = DefaultsOf(*description, storage.Metadata());
+    std::vector<Default> defaults = DefaultsOf(*description, storage.Metadata(), m_current);
+    for (Default const& each : defaults)
+        if (long long const zeros = table.Zeros(each.field); zeros > 0 && each.literal.empty())
+            table.Report().missing[each.field] += zeros;
     std::vector<long long> const& unset = table.Unset();
     if (unset.size() == storage.Metadata().Columns().size())
         std::erase_if(defaults, [&](Default const& each) {
@@ -320,10 +348,12 @@ void dbc_Upgrade::FinishReport() {
     dbc_UpgradeReport& report = m_converter.Tables().Report();
     for (auto& [typeId, each] : report.classes) {
         // What a row has elsewhere now, it did not lose.
-        for (auto const& [names, rows] : each.renamed) {
-            auto const dropped = each.dropped.find(names.first);
+        for (auto const& [field, rows] : each.taken) {
+            auto const dropped = each.dropped.find(field);
             if (dropped != each.dropped.end() && (dropped->second -= rows) <= 0)
                 each.dropped.erase(dropped);
+        }
+        for (auto const& [names, rows] : each.renamed) {
             auto const filled = each.filled.find(names.second);
             if (filled != each.filled.end() && (filled->second -= rows) <= 0)
                 each.filled.erase(filled);

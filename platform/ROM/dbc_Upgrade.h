@@ -53,6 +53,9 @@ private:
     }
     void RunStep(int version, dbc_Converter const& step);
     void RenameTables();
+    /// Makes the table that is to get the rows of another class, as it was when classes were
+    /// renamed.
+    void StartTarget(unsigned typeId, std::string const& source);
     void BringToCurrent();
     void DropDeleted();
     void Complete();

@@ -20,7 +20,9 @@ struct dbc_ClassReport {
     std::map<std::pair<std::string, std::string>, long long> renamed;
     /// An enumeration without a literal was given its class's default.
     std::map<std::string, long long> defaulted;
-    /// A number or flag has no value, and reads as something else than its class's default.
+    /// Rows by the field that had a value which another field or class has now: it is not lost.
+    std::map<std::string, long long> taken;
+    /// A number or flag has no value, or got a 0 for none, and its class's default is another.
     std::map<std::string, long long> missing;
     struct Note {
         long long rows = 0;

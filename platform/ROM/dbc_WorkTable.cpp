@@ -70,6 +70,7 @@ void dbc_WorkTable::EndStep() {
     m_streamed = 0;
     m_frozen = nullptr;
     m_frozenRows = 0;
+    m_taken.clear();
 }
 
 void dbc_WorkTable::Create(rfm_TableMetadata const& layout) {
@@ -179,15 +180,14 @@ void dbc_WorkTable::Count(dbc_RowRfm const& out, rfm_Cursor& former) {
     for (std::size_t i = 0; i < from.size(); ++i) {
         rfm_Value const value = out.Value(static_cast<int>(i));
         // A literal may be missing as an empty text, too.
-        if (value.tag == rfm_Value::Text && value.length == 0) ++m_unset[i];
-        if (value.tag == rfm_Value::Null)
+        if (!IsHeld(value))
             ++m_unset[i];
         else if (from[i] < 0)
             ++m_filled[i];
     }
     std::vector<int> const& dropped = m_places->Dropped();
     for (std::size_t i = 0; i < dropped.size(); ++i)
-        if (former.Value(dropped[i]).tag != rfm_Value::Null) ++m_dropped[i];
+        if (IsHeld(former.Value(dropped[i]))) ++m_dropped[i];
 }
 
 void dbc_WorkTable::SumUp() {
@@ -216,9 +216,43 @@ void dbc_WorkTable::NoteMove(rfm_FieldHandle const& from, rfm_FieldHandle const&
     m_moves.push_back({from.Number(), to.Number(), &rows});
 }
 
+void dbc_WorkTable::NoteTaken(rfm_FieldHandle const& from, int oid, bool byAnother) {
+    auto taken = std::find_if(m_taken.begin(), m_taken.end(),
+                              [&](Taken const& each) { return each.field == from.Number(); });
+    if (taken == m_taken.end()) {
+        m_taken.push_back({from.Number(), &Report().taken[FieldName(from)], -1, {}});
+        taken = m_taken.end() - 1;
+    }
+    if (oid == taken->last) return;
+    taken->last = oid;
+    if (byAnother) {
+        auto const row = static_cast<std::size_t>(oid);
+        if (row >= taken->seen.size())
+            taken->seen.resize(std::max(row + 1, static_cast<std::size_t>(m_frozenRows)));
+        if (taken->seen[row]) return;
+        taken->seen[row] = true;
+    }
+    ++*taken->rows;
+}
+
+void dbc_WorkTable::NoteZero(rfm_FieldHandle const& to) {
+    for (Zero& zero : m_zeros)
+        if (zero.field.Number() == to.Number()) {
+            ++zero.rows;
+            return;
+        }
+    m_zeros.push_back({to, 1});
+}
+
+long long dbc_WorkTable::Zeros(std::string const& field) const {
+    for (Zero const& zero : m_zeros)
+        if (field == zero.field.Name()) return zero.rows;
+    return 0;
+}
+
 void dbc_WorkTable::CountDropped(dbc_RowRfm const& from, dbc_Places const& places) {
     for (int column : places.Dropped()) {
-        if (from.InputValue(column).tag == rfm_Value::Null) continue;
+        if (!IsHeld(from.InputValue(column))) continue;
         auto const index = static_cast<std::size_t>(column);
         std::string const name = FieldName(places.FormerLayout()->Columns()[index].name);
         if (!name.empty()) ++Report().dropped[name];

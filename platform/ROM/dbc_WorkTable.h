@@ -68,8 +68,18 @@ public:
     dbc_ClassReport& Report();
     /// Tells the report that a row has its value in another field.
     void NoteMove(rfm_FieldHandle const& from, rfm_FieldHandle const& to);
-    /// Tells the report what a row that is copied to this table loses.
+    /// Tells the report that a field of a row is not lost, once for each row of a step. Those of
+    /// another table can come back to a row at any time, which takes a bit for each.
+    void NoteTaken(rfm_FieldHandle const& from, int oid, bool byAnother);
+    /// Tells the report what a row of this table that is copied to another loses.
     void CountDropped(dbc_RowRfm const& from, dbc_Places const& places);
+    void NoteZero(rfm_FieldHandle const& to);
+    /// How many rows have a 0 in the field that stands for no value.
+    long long Zeros(std::string const& field) const;
+    /// Whether somebody would miss the value: an empty text is none.
+    static bool IsHeld(rfm_Value const& value) {
+        return value.tag != rfm_Value::Null && (value.tag != rfm_Value::Text || value.length != 0);
+    }
     std::string Name() const;
 
     /// How many rows of the last rewrite have no value in each column.
@@ -112,6 +122,18 @@ private:
         long long* rows;  ///< in the report
     };
     std::vector<Move> m_moves;
+    struct Taken {
+        int field;
+        long long* rows;  ///< in the report
+        int last;
+        std::vector<bool> seen;
+    };
+    std::vector<Taken> m_taken;
+    struct Zero {
+        rfm_FieldHandle field;
+        long long rows;
+    };
+    std::vector<Zero> m_zeros;
 };
 
 /// All tables of a run.

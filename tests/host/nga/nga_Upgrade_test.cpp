@@ -77,6 +77,73 @@ TEST_F(ExampleUpgrades, ConnectorsOf453GetTheLiteralsThatTheyLack) {
     EXPECT_TRUE(told);
 }
 
+TEST_F(ExampleUpgrades, AZeroThatStandsForNoValueIsToldWhereTheDefaultIsAnother) {
+    std::string const path = Made(453);
+    Sql(path, "UPDATE kbeC_Friction SET tangentDirs=NULL");
+    Sql(path, "UPDATE kbeC_MotionDiscontinuity SET affectedComponent=NULL WHERE \"##OID\"=0");
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    auto const& classes = outcome.file.report.classes;
+    auto const& friction = classes.at(0x2A8001C);
+    EXPECT_EQ(SqlText(path, "SELECT forcePotentialExponent FROM kbeC_ConnectorFriction"), "0.0");
+    EXPECT_EQ(friction.missing.at("forcePotentialExponent"), 1);
+    EXPECT_EQ(SqlText(path, "SELECT tangentDirection FROM kbeC_ConnectorFriction"), "0");
+    EXPECT_EQ(friction.missing.at("tangentDirection"), 1);
+    // A 0 that was stored, or is the default, misses nothing.
+    EXPECT_EQ(friction.missing.count("stickStiffness"), 0u);
+    EXPECT_EQ(friction.missing.count("useContactForceComponent"), 0u);
+    EXPECT_EQ(classes.at(0x2A8001D).missing.at("forcePotentialExponent"), 1);
+    EXPECT_EQ(SqlText(path, "SELECT lockingComponent FROM kbeC_ConnectorLock"), "0");
+    EXPECT_EQ(classes.at(0x2A8001A).missing.at("lockingComponent"), 1);
+}
+
+TEST_F(ExampleUpgrades, FieldsOfAnAbstractClassAreCompletedToo) {
+    std::string const path = Made(203);
+    Sql(path, "UPDATE kamC_Amplitude SET time=NULL");
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    EXPECT_TRUE(outcome.unreadable.empty());
+    auto const& amplitude = outcome.file.report.classes.at(0x2440002);
+    EXPECT_EQ(amplitude.defaulted.at("timeSpan"), 1);
+    EXPECT_EQ(amplitude.filled.count("timeSpan"), 0u);
+    EXPECT_EQ(SqlText(path, "SELECT timeSpan FROM kamC_Amplitude"), "STEP");
+}
+
+TEST_F(ExampleUpgrades, ObjectsBesideAnUnreadableOneAreStillChecked) {
+    std::string const path = Made(203);
+    Sql(path, "UPDATE kbpC_BoxProfile SET width=-1.0");
+    nga::UpgradeFileOptions dry;
+    dry.dryRun = true;
+    nga::UpgradeOutcome const whole = nga::Upgrade(path, dry);
+    ASSERT_EQ(whole.findings.size(), 1u);
+    Sql(path, "UPDATE kmaC_Hyperelastic SET type='GUMMY'");
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path, dry);
+    EXPECT_EQ(outcome.unreadable.size(), 1u);
+    ASSERT_EQ(outcome.findings.size(), 1u);
+    EXPECT_EQ(outcome.findings[0].path, whole.findings[0].path);
+    EXPECT_EQ(outcome.findings[0].message, whole.findings[0].message);
+}
+
+TEST_F(ExampleUpgrades, ADryRunIsRefusedWhereTheRunWouldBe) {
+    std::string const path = Made(203);
+    std::string const nowhere = folder.File("missing/new.nga");
+    ToolRun const dry = RunNga({"upgrade", path, "-o", nowhere, "--dry-run"});
+    ToolRun const wet = RunNga({"upgrade", path, "-o", nowhere});
+    EXPECT_EQ(wet.code, 2);
+    EXPECT_EQ(dry.code, 2);
+    EXPECT_EQ(dry.err, wet.err);
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST_F(ExampleUpgrades, ADryRunNamesTheBackupThatWouldBe) {
+    std::string const path = Made(203);
+    store_test::Overwrite(path + ".schema-203.bak", "somebody's");
+    ToolRun const outcome = RunNga({"upgrade", path, "--dry-run", "--json"});
+    EXPECT_NE(outcome.out.find("\"backup\": \"" + path + ".schema-203.bak.2\""), std::string::npos)
+        << outcome.out;
+    EXPECT_NE(outcome.err.find("the old database would be " + path + ".schema-203.bak.2"),
+              std::string::npos);
+    EXPECT_EQ(folder.Entries(), 2);
+}
+
 TEST_F(ExampleUpgrades, CompletionCanBeLeftOut) {
     std::string const path = Made(453);
     nga::UpgradeFileOptions options;

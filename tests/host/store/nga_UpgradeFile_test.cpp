@@ -164,7 +164,9 @@ TEST_F(UpgradedStore, DryRunsChangeNothingAndTellTheSame) {
     std::string const before = Contents(path);
     nga::UpgradeFileOptions options;
     options.dryRun = true;
-    dbc_UpgradeReport const dry = nga::UpgradeFile(path, options).report;
+    nga::UpgradedFile const tried = nga::UpgradeFile(path, options);
+    dbc_UpgradeReport const& dry = tried.report;
+    EXPECT_EQ(tried.backup, path + ".schema-203.bak");
     EXPECT_EQ(Contents(path), before);
     EXPECT_EQ(folder.Entries(), 1);
     dbc_UpgradeReport const wet = nga::UpgradeFile(path).report;
@@ -177,6 +179,49 @@ TEST_F(UpgradedStore, DryRunsChangeNothingAndTellTheSame) {
         EXPECT_EQ(other.dropped, report.dropped);
         EXPECT_EQ(other.renamed, report.renamed);
     }
+}
+
+TEST_F(UpgradedStore, ASignalTakesTheScratchCopyOfADryRunWithIt) {
+    std::string const path = OldFile(5);
+    std::string const scratch = folder.File("scratch");
+    std::filesystem::create_directory(scratch);
+    auto const files = [&] {
+        return std::distance(std::filesystem::directory_iterator(scratch),
+                             std::filesystem::directory_iterator());
+    };
+    for (int signal : {SIGTERM, SIGINT, SIGHUP, SIGKILL}) {
+        pid_t const child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            setenv("TMPDIR", scratch.c_str(), 1);
+            nga::UpgradeFileOptions options;
+            options.dryRun = true;
+            options.inspect = [&](std::string const&) { raise(files() == 1 ? signal : SIGABRT); };
+            try {
+                nga::UpgradeFile(path, options);
+            } catch (...) {
+            }
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status));
+        EXPECT_EQ(WTERMSIG(status), signal);
+        EXPECT_EQ(files(), signal == SIGKILL ? 1 : 0);
+    }
+    // A kill asks nobody; the next dry run clears up after it.
+    char const* const former = std::getenv("TMPDIR");
+    std::string const kept = former ? former : "";
+    setenv("TMPDIR", scratch.c_str(), 1);
+    nga::UpgradeFileOptions options;
+    options.dryRun = true;
+    options.inspect = [&](std::string const&) { EXPECT_EQ(files(), 1); };
+    nga::UpgradeFile(path, options);
+    if (former)
+        setenv("TMPDIR", kept.c_str(), 1);
+    else
+        unsetenv("TMPDIR");
+    EXPECT_EQ(files(), 0);
 }
 
 TEST_F(UpgradedStore, NeverOverwritesABackup) {

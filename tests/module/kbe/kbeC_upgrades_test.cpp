@@ -174,6 +174,18 @@ protected:
         EXPECT_EQ(after.At(options, oid, "useBehExtSettings"), "1");
     }
     Upgraded Run() { return Upgraded(db.Store(), current.Registrar()); }
+    /// Whatever became of the empty table that damage is to come to.
+    void ExpectDamageThroughAllSteps() {
+        Need("kbeC_Damage_507");
+        db.Row(damage, {{"iniPotOperator", "MAXIMUM"}, {"##BaseClassOID", Base(6)}});
+        Upgraded after = Run();
+        ASSERT_EQ(after.Rows(connectorDamage), 1);
+        EXPECT_EQ(after.At(connectorDamage, 0, "initiationPotentialOperator"), "MAXIMUM");
+        ExpectOptions(after, connectorDamage, 0, "initiationOptions");
+        ExpectOptions(after, connectorDamage, 0, "evolutionOptions");
+        EXPECT_EQ(after.Report().classes.at(connectorDamage).versions,
+                  (std::vector<int>{811, 817, 1022}));
+    }
 
     CurrentClasses current;
     OldDatabase db;
@@ -268,6 +280,62 @@ TEST_F(ConnectorUpgrades, LocksAndFailuresTakeTheirLimitsFromTheMiddleClass) {
         EXPECT_EQ(after.At(each.typeId, 0, "##BaseClassOID"), "-1");
     }
     EXPECT_FALSE(after.Has(motionDiscontinuity));
+}
+
+TEST_F(ConnectorUpgrades, OnlyComponentsThatNoBehaviourTakesAreDropped) {
+    Need("kbeC_Stops_453");
+    int const shared = Base(6);
+    Base(7);
+    Base(8);
+    db.Row(stops, {{"##BaseClassOID", shared}});
+    db.Row(stops, {{"##BaseClassOID", shared}});
+    Upgraded after = Run();
+    EXPECT_EQ(after.Report().classes.at(behaviorOption).dropped.at("components"), 2);
+}
+
+TEST_F(ConnectorUpgrades, WhatHasNoValueIsNotToldAsMoved) {
+    Need("kbeC_Damage_507");
+    db.Row(damage, {{"iniPotExponent", 2.0},
+                    {"iniPotOperator", "SUM"},
+                    {"lastIniId", 4},
+                    {"##BaseClassOID", Base(6)}});
+    db.Row(damage, {{"iniPotOperator", ""}, {"##BaseClassOID", Base(7)}});
+    Upgraded after = Run();
+    auto const& renamed = after.Report().classes.at(connectorDamage).renamed;
+    EXPECT_EQ(renamed.at({"iniPotExponent", "initiationPotentialExponent"}), 1);
+    EXPECT_EQ(renamed.at({"iniPotOperator", "initiationPotentialOperator"}), 1);
+    EXPECT_EQ(renamed.count({"evoPotExponent", "evolutionPotentialExponent"}), 0u);
+    // What the old class had is lost by it, not by the one that never had the field.
+    auto const& dropped = after.Report().classes.at(damage).dropped;
+    EXPECT_EQ(dropped, (std::map<std::string, long long>{{"lastIniId", 1}}));
+    EXPECT_TRUE(after.Report().classes.at(connectorDamage).dropped.empty());
+}
+
+TEST_F(ConnectorUpgrades, AnEmptyTargetOf817IsMadeAgain) {
+    Need("kbeC_ConnectorDamage_817");
+    ExpectDamageThroughAllSteps();
+}
+
+TEST_F(ConnectorUpgrades, AnEmptyTargetOf1022IsMadeAgain) {
+    db.Table(connectorDamage, "kbeC_ConnectorDamage", 1022, behaviorOption,
+             Plus("kbeC_ConnectorDamage_817", "object initiationOptions, object evolutionOptions"));
+    ExpectDamageThroughAllSteps();
+}
+
+TEST_F(ConnectorUpgrades, EmptyTargetsOf836AreMadeAgain) {
+    Need("kbeC_Friction_507");
+    Need("kbeC_Potential_507");
+    Need("kbeC_ConnectorFriction_836");
+    db.Table(connectorPotential, "kbeC_ConnectorPotential", 836, 1,
+             "literal componentStyle, int componentNumber, literal sign, real scaleFactor, "
+             "real positiveExponent, real shiftFactor, literal hFunction, object derivedComponent");
+    db.Row(potential, {{"componentName", "sum"}, {"positiveExp", 3.0}});
+    db.Row(friction, {{"derivedComponent", "sum"}, {"##BaseClassOID", Tabular(1, 9)}});
+    Upgraded after = Run();
+    ExpectOptions(after, connectorFriction, 0, "options");
+    EXPECT_EQ(after.Report().classes.at(connectorFriction).dropped.at("derivedComponent"), 1);
+    EXPECT_EQ(after.At(connectorPotential, 0, "positiveExponent"), "3");
+    EXPECT_EQ(after.Report().classes.at(connectorPotential).notes.size(), 1u);
 }
 
 TEST_F(ConnectorUpgrades, FrictionOf507BringsItsPotentials) {

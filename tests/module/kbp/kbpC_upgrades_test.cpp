@@ -66,7 +66,12 @@ TEST_F(ProfileUpgrades, TheBoxHasItsThicknessesAsFields) {
         EXPECT_EQ(after.At(box, 0, ("t" + std::to_string(i + 1)).c_str()), std::to_string(i + 1));
     EXPECT_FALSE(after.HasColumn(box, "tempThick#OID"));
     EXPECT_EQ(after.Version(box), 430);
-    EXPECT_TRUE(after.Report().classes.at(box).notes.empty());
+    auto const& report = after.Report().classes.at(box);
+    EXPECT_TRUE(report.notes.empty());
+    for (char const* thickness : {"t1", "t2", "t3", "t4"})
+        EXPECT_EQ(report.renamed.at({"tempThick", thickness}), 1);
+    EXPECT_TRUE(report.dropped.empty());
+    EXPECT_TRUE(report.filled.empty());
 }
 
 TEST_F(ProfileUpgrades, ShortAndLongListsOfThicknessesAreTold) {
@@ -84,6 +89,11 @@ TEST_F(ProfileUpgrades, ShortAndLongListsOfThicknessesAreTold) {
     EXPECT_EQ(notes.at("its list of thicknesses has fewer than four values").rows, 2);
     EXPECT_EQ(notes.at("its list of thicknesses has more than four values").rows, 1);
     EXPECT_EQ(notes.at("its list of thicknesses has more than four values").firstRow, 1);
+    // The list without values moves nowhere.
+    auto const& report = after.Report().classes.at(box);
+    EXPECT_EQ(report.renamed.at({"tempThick", "t1"}), 2);
+    EXPECT_EQ(report.renamed.at({"tempThick", "t4"}), 1);
+    EXPECT_EQ(report.dropped.at("tempThick"), 1);
 }
 
 TEST_F(ProfileUpgrades, ABoxWithoutItsListEndsTheRun) {

@@ -129,6 +129,13 @@ TEST_F(MaterialUpgrades, StabilizedCombinedHardeningOfThreeColumnsDependsOnTheSt
     EXPECT_EQ(CellsOf(after, plastic, 0), (Cells{1, 2, 3}));
 }
 
+TEST_F(MaterialUpgrades, AnEmptyStabilizedTableDoesNotDependOnTheStrainRange) {
+    Plastic203("COMBINED", "STABILIZED", TableOf(0, {}));
+    Upgraded after(db.Store(), Current());
+    EXPECT_EQ(after.At(plastic, 0, "strainRangeDependency"), "0");
+    EXPECT_EQ(ColumnsOf(after, plastic, 0), 0);
+}
+
 TEST_F(MaterialUpgrades, OtherHardeningKeepsItsTable) {
     Plastic203("ISOTROPIC", "HALF_CYCLE", TableOf(3, {1, 2, 3}));
     Upgraded after(db.Store(), Current());
@@ -453,6 +460,10 @@ TEST_F(MaterialUpgrades, UserMaterialRefersToItsArraysThemselves) {
     EXPECT_EQ(after.At(userMaterial, 0, "mechanicalConstants#OID"), "1");
     EXPECT_EQ(after.At(userMaterial, 0, "thermalConstants#OID"), "0");
     EXPECT_EQ(after.Array(1), (Cells{3}));
+    auto const& report = after.Report().classes.at(userMaterial);
+    EXPECT_EQ(report.renamed.at({"mechanicalTable", "mechanicalConstants"}), 1);
+    EXPECT_EQ(report.renamed.at({"thermalTable", "thermalConstants"}), 1);
+    EXPECT_EQ(report.dropped, (std::map<std::string, long long>{{"constants", 1}}));
 }
 
 TEST_F(MaterialUpgrades, UserMaterialWithoutATableEndsTheRun) {
@@ -491,6 +502,18 @@ TEST_F(MaterialUpgrades, ViscoelasticityGetsAnEmptyVolumetricTable) {
     }
 }
 
+TEST_F(MaterialUpgrades, ViscoelasticityAloneGetsTheFirstTableOfItsDatabase) {
+    Need("kmaC_Viscoelastic_203");
+    db.Row(viscoelastic, {{"domain", "TIME"}});
+    db.Row(viscoelastic, {{"domain", "FREQUENCY"}});
+    Upgraded after(db.Store(), Current());
+    ASSERT_EQ(after.Rows(materialTable), 2);
+    for (int row : {0, 1}) {
+        EXPECT_EQ(after.Int(viscoelastic, row, "volumetricTable#OID"), row);
+        EXPECT_EQ(after.At(materialTable, row, "allowEmptyFirstRow"), "1");
+    }
+}
+
 TEST_F(MaterialUpgrades, StabilizationMovesUpFromEvolutionToInitiation) {
     Need("kmaC_DamageEvolution_869");
     Need("kmaC_DamageInitiation_869");
@@ -510,7 +533,22 @@ TEST_F(MaterialUpgrades, StabilizationMovesUpFromEvolutionToInitiation) {
     EXPECT_EQ(after.At(damageInitiation, 2, "damageStabilization#OID"), "NULL");
     EXPECT_EQ(after.At(damageInitiation, 2, "frequency"), "2");
     EXPECT_FALSE(after.HasColumn(damageEvolution, "damageStabilization#OID"));
+    EXPECT_EQ(after.Report().classes.at(damageEvolution).dropped.count("damageStabilization"), 0u);
     EXPECT_FALSE(after.HasColumn(damageInitiation, "damageStabilization#ClassOID"));
+}
+
+TEST_F(MaterialUpgrades, StabilizationOfAnEvolutionThatNobodyHasIsDropped) {
+    Need("kmaC_DamageEvolution_869");
+    Need("kmaC_DamageInitiation_869");
+    for (int stabilization : {3, 4, 5})
+        db.Row(damageEvolution, {{"damageStabilization#ClassID", int(damageStabilization)},
+                                 {"damageStabilization#OID", stabilization}});
+    // Two share the first; it is one that is not lost.
+    for (int evolution : {0, 1, 0})
+        db.Row(damageInitiation, {{"damageEvolution#ClassID", int(damageEvolution)},
+                                  {"damageEvolution#OID", evolution}});
+    Upgraded after = Run();
+    EXPECT_EQ(after.Report().classes.at(damageEvolution).dropped.at("damageStabilization"), 1);
 }
 
 TEST_F(MaterialUpgrades, CapCreepSplitsByItsMechanism) {

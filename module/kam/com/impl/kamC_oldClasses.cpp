@@ -26,7 +26,7 @@ void* DataTo424(dbc_Row const& in, dbc_Row& out, int) {
     if (IsSetAndHas(in, data.name)) return nullptr;
     out.SetInt(data.classId, static_cast<int>(cls_ListTypeId));
     out.SetInt(data.oid, Reference(in, table.oid));
-    out.NoteMove(table.oid, data.oid);
+    out.NoteMove(in, table.oid, data.oid);
     return nullptr;
 }
 

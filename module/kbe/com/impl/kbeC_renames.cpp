@@ -135,7 +135,7 @@ void MoveDoubleUnlessThere(dbc_Row const& in, dbc_Row const& from, dbc_Row& out,
 void MoveLiteral(dbc_Row const& in, dbc_Row& out, Field const& from, Field const& to,
                  LiteralMap map) {
     out.SetString(to, Mapped(in.GetString(from), map));
-    if (in.IsSet(from) && from.Number() != to.Number()) out.NoteMove(from, to);
+    out.NoteMove(in, from, to);
 }
 
 // ---- the row steps -----------------------------------------------------------------------------
@@ -169,6 +169,7 @@ void MoveForce(dbc_Row const& in, dbc_Row const& parent, dbc_Row& out, Field con
     if (!UnlessHasAndIsSet(in, force)) return;
     double const value = parent.GetDouble(force);
     out.SetDouble(force, value == -noLimit ? noLimit : value);
+    if (!parent.IsSet(force)) out.NoteZero(force);
 }
 
 void DiscontinuityRow(dbc_Row const& in, dbc_Row& out, Bases& bases, Field const& component) {
@@ -180,7 +181,8 @@ void DiscontinuityRow(dbc_Row const& in, dbc_Row& out, Bases& bases, Field const
     if (IfNeither(in, component)) {
         int const affected = parent->GetInt(affectedComponent);
         out.SetInt(component, affected == -1 ? INT_MAX : affected);
-        out.NoteMove(affectedComponent, component);
+        out.NoteMove(*parent, affectedComponent, component);
+        if (!parent->IsSet(affectedComponent)) out.NoteZero(component);
     }
     MoveDoubleUnlessThere(in, *parent, out, motion.minDisplacement, motion.minMotion);
     MoveDoubleUnlessThere(in, *parent, out, motion.maxDisplacement, motion.maxMotion);

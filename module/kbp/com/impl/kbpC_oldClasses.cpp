@@ -66,10 +66,12 @@ void* BoxTo430(dbc_Row const& in, dbc_Row& out, int) {
     if (HasAndIsSet(in, thickness[0])) return nullptr;
     Reference(in, tempThick.oid);
     std::vector<double> const values = ListOf(in, tempThick, *Lists(in));
-    for (std::size_t i = 0; i < 4 && i < values.size(); ++i) out.SetDouble(thickness[i], values[i]);
+    for (std::size_t i = 0; i < 4 && i < values.size(); ++i) {
+        out.SetDouble(thickness[i], values[i]);
+        out.NoteMove(in, tempThick.oid, thickness[i]);
+    }
     if (values.size() < 4) out.Note("its list of thicknesses has fewer than four values");
     if (values.size() > 4) out.Note("its list of thicknesses has more than four values");
-    out.NoteMove(tempThick.oid, thickness[0]);
     return nullptr;
 }
 
@@ -94,7 +96,7 @@ void* ArbitraryTo505(dbc_Row const& in, dbc_Row& out, int) {
     out.SetInt(table.oid, AppendArray(out, "table", rows));
     out.SetInt(table.classId, static_cast<int>(cls_ListTypeId));
     for (dbc_ObjectField const* field : {&xField, &yField, &tField})
-        out.NoteMove(field->oid, table.oid);
+        out.NoteMove(in, field->oid, table.oid);
     return nullptr;
 }
 

@@ -118,11 +118,12 @@ void* kmaC_ViscoelasticTo855(dbc_Row const&, dbc_Row& out, int) {
 }
 
 void* kmaC_ViscoelasticTo876(dbc_Row const&, dbc_Row& out, int) {
-    static dbc_KeptTable kept;
     static Field const allowEmptyFirstRow("allowEmptyFirstRow");
-    unsigned const tables = kmaC_MaterialTable::TypeId();
-    dbc_HeldRow<dbc_Row> const row(
-        dbc_Utils::SetObj(kept.Output(tables), "volumetricTable", out, tables));
+    unsigned const typeId = kmaC_MaterialTable::TypeId();
+    // There may be none yet, where no option of the database had cells.
+    dbc_TableRfm& tables =
+        dbc_Utils::CreateClassInOutputDatabase(typeId, Run().Output().Transporter());
+    dbc_HeldRow<dbc_Row> const row(dbc_Utils::SetObj(tables, "volumetricTable", out, typeId));
     row->SetInt(allowEmptyFirstRow, 1);
     dbc_Utils::SetNewAttributeArrayDoubleInOutputDatabase(*row, "table", 0);
     return nullptr;
@@ -177,7 +178,11 @@ void* kmaC_UserMaterialTo451(dbc_Row const& in, dbc_Row& out, int) {
     dbc_Table& tables = kept.Input(kmaC_MaterialTable::TypeId());
     auto const unwrap = [&](dbc_ObjectField const& from, dbc_ObjectField const& to) {
         dbc_HeldRow<dbc_Row const> const wrapper(Follow(in, from.oid, tables));
-        MoveObject(*wrapper, out, The().table, to);
+        if (!wrapper->IsSet(The().table.oid)) return;
+        out.SetInt(to.oid, wrapper->GetInt(The().table.oid));
+        if (wrapper->IsSet(The().table.classId))
+            out.SetInt(to.classId, wrapper->GetInt(The().table.classId));
+        out.NoteMove(in, from.oid, to.oid);
     };
     unwrap(mechanicalTable, mechanical);
     unwrap(thermalTable, thermal);
@@ -196,6 +201,7 @@ void* kmaC_DamageInitiationTo883(dbc_Row const& in, dbc_Row& out, int) {
         Follow(in, damageEvolution.oid, kept.Output(kmaC_DamageEvolution::TypeId())));
     if (!evolution->IsSet(stabilization.oid)) return nullptr;
     out.SetInt(stabilization.oid, evolution->GetInt(stabilization.oid));
+    out.NoteMove(*evolution, stabilization.oid, stabilization.oid);
     out.SetInt(stabilizationClass, static_cast<int>(kmaC_DamageStabilization::TypeId()));
     return nullptr;
 }
@@ -218,7 +224,7 @@ void* kmaC_CapPlasticityTo452(dbc_Row const& in, dbc_Row& out, int) {
         dbc_HeldRow<dbc_Row> const row(created.NewRow());
         out.SetInt(target.classId, static_cast<int>(typeId));
         out.SetInt(target.oid, created.RowCount() - 1);
-        out.NoteMove(capCreep.oid, target.oid);
+        out.NoteMove(in, capCreep.oid, target.oid);
         row->SetUid(dbc_Utils::DerivedUid(out, target.name.Name()));
         // A new row has no base from the start.
         CopyObject(*old, *row, The().table);
@@ -292,11 +298,14 @@ PlasticTables& Plastic() {
     return tables;
 }
 
-Array PlasticArray(dbc_Row const& in) {
+dbc_Row const& PlasticCells(dbc_Row const& in) {
     dbc_HeldRow<dbc_Row const> const material(
         Follow(in, The().table.oid, Plastic().materials.Input(kmaC_MaterialTable::TypeId())));
-    dbc_HeldRow<dbc_Row const> const array(
-        Follow(*material, The().table.oid, Plastic().arrays.Input(cls_ListTypeId)));
+    return Follow(*material, The().table.oid, Plastic().arrays.Input(cls_ListTypeId));
+}
+
+Array PlasticArray(dbc_Row const& in) {
+    dbc_HeldRow<dbc_Row const> const array(PlasticCells(in));
     return ReadArray(*array);
 }
 
@@ -324,12 +333,14 @@ void RequireColumns(dbc_Row const& in, Array const& array, int columns) {
 
 void* kmaC_PlasticTo419(dbc_Row const& in, dbc_Row& out, int) {
     static Field const strainRangeDependency("strainRangeDependency");
+    static Field const columns("Target#Columns", rom_Layout::ListColumns);
     if (!HasAndIsSet(in, strainRangeDependency)) {
         out.SetInt(strainRangeDependency, 0);
         if (Is(in, "COMBINED", "STABILIZED")) {
-            Array const array = PlasticArray(in);
+            // The cells themselves do not matter, so that a table without any passes.
+            dbc_HeldRow<dbc_Row const> const array(PlasticCells(in));
             if (in.GetInt(The().dependencies) + 2 + in.GetInt(The().temperatureDependency) <
-                array.columns)
+                array->GetInt(columns))
                 out.SetInt(strainRangeDependency, 1);
         }
     }
@@ -363,7 +374,7 @@ void* kmaC_PlasticTo1107(dbc_Row const& in, dbc_Row& out, int) {
         if (i % static_cast<std::size_t>(old.columns) == 1) wider.values.push_back(value);
     }
     SetPlasticArray(out, wider);
-    out.NoteMove(The().gamma, The().table.name);
+    out.NoteMove(in, The().gamma, The().table.name);
     return nullptr;
 }
 
