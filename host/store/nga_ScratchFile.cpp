@@ -21,7 +21,7 @@ namespace nga {
 namespace {
 
 constexpr char const namePrefix[] = "nga-dry-run-";
-constexpr int attemptsAtMost = 100;
+constexpr int scratchNamesAtMost = 100;
 constexpr int endings[] = {SIGHUP, SIGINT, SIGTERM};
 
 // For the handler, which may use nothing that the process holds elsewhere.
@@ -58,13 +58,13 @@ void UnwatchSignals() {
     }
 }
 
-struct FolderCloser {
+struct ScratchFolderCloser {
     void operator()(DIR* folder) const { closedir(folder); }
 };
 
 // Nobody waits for these: what cannot be removed stays.
 void RemoveStale(std::string const& folder) {
-    std::unique_ptr<DIR, FolderCloser> const entries(opendir(folder.c_str()));
+    std::unique_ptr<DIR, ScratchFolderCloser> const entries(opendir(folder.c_str()));
     if (!entries) return;
     while (dirent const* entry = readdir(entries.get())) {
         if (std::strncmp(entry->d_name, namePrefix, sizeof namePrefix - 1) != 0) continue;
@@ -86,7 +86,7 @@ ScratchFile::ScratchFile(std::string const& of) {
     std::string const folder = std::filesystem::temp_directory_path(ignored).string();
     RemoveStale(folder);
     bool made = false;
-    for (int attempt = 0; attempt < attemptsAtMost && !made; ++attempt) made = Make(folder);
+    for (int attempt = 0; attempt < scratchNamesAtMost && !made; ++attempt) made = Make(folder);
     if (!made)
         throw StoreError(
             of, std::string("there is no room for a scratch copy: ") + std::strerror(errno));
