@@ -28,11 +28,20 @@ void* operator new(std::size_t size) {
     ++liveBlocks;
     return block;
 }
+// Library code that sorts asks for its buffer with this form, and gives it back with the plain one.
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
+    try {
+        return operator new(size);
+    } catch (std::bad_alloc const&) {
+        return nullptr;
+    }
+}
 void operator delete(void* block) noexcept {
     if (block) --liveBlocks;
     std::free(block);
 }
 void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
+void operator delete(void* block, std::nothrow_t const&) noexcept { operator delete(block); }
 
 namespace allocation_failure_test {
 
