@@ -47,7 +47,9 @@ void dbc_RegisterOldClasses(dbc_OldClass const* rows, std::size_t count) {
     auto& registrar = omi_Singleton<dbc_OldClassRegistrar>::Instance();
     using Holder = cow_CountedHld<dbc_OldClassVersion>;
     for (std::size_t i = 0; i < count; ++i) {
-        void* const place = mem_OperatorNewTinyThrow(sizeof(Holder));
-        registrar.Register(new (place) Holder(new dbc_OldClassOfTable(rows[i])), rows[i].mask);
+        cow_OwnedBlock place(mem_OperatorNewTinyThrow(sizeof(Holder)));
+        auto* const holder = new (place.Get()) Holder(new dbc_OldClassOfTable(rows[i]));
+        place.Release();
+        registrar.Register(holder, rows[i].mask);
     }
 }

@@ -41,7 +41,12 @@ void dbc_OldClassRegistrar::Register(cow_CountedHld<dbc_OldClassVersion>* holder
         return typeid(known) == typeid(given) && known.Identity() == given.Identity();
     });
     if (same == m_entries.end()) {
-        m_entries.push_back({holder, mask});
+        try {
+            m_entries.push_back({holder, mask});
+        } catch (...) {
+            Release(holder);
+            throw;
+        }
         return;
     }
     Release(same->holder);
