@@ -218,7 +218,7 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
 INSERT INTO "kbeC_Friction"("##OID","frictionModel","stickStiffness","tangentDirs","componentType","independentComponents#ClassID","independentComponents#OID","slipDependency","##BaseClassOID","##Uid") VALUES(0,'USER_CUSTOMIZED',1000000.0,1,'NO_INDEP_COMPS',2293761,11,0,2,x'4C000000000000000000000000005EED');
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(12,x'01000000',1,54,x'4D000000000000000000000000005EED');
 INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid") VALUES(6,2293761,12,-1,x'4E000000000000000000000000005EED');
-INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(13,x'0000000000005940000000000000000000000000008061407B14AE47E17A943F',2,82,x'4F000000000000000000000000005EED');
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(13,x'00000000000059400000000000000000000000000000000000000000008061407B14AE47E17A943F0000000000000000',3,82,x'4F000000000000000000000000005EED');
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid") VALUES(3,2293761,13,-1,x'50000000000000000000000000005EED');
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(14,x'',0,82,x'51000000000000000000000000005EED');
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid") VALUES(4,2293761,14,-1,x'52000000000000000000000000005EED');

@@ -10,6 +10,7 @@
 #include "nga_DiffReport.h"
 #include "nga_Document.h"
 #include "nga_Error.h"
+#include "nga_Findings.h"
 #include "nga_Journal.h"
 #include "nga_Json.h"
 #include "nga_JsonWriter.h"
@@ -441,6 +442,11 @@ private:
                         "the path of an object, of a collection or of the document");
         TreeNode const tree = BuildTree(document, from);
         m_console.Result(m_arguments.json ? TreeJson(tree) : TreeText(tree, m_arguments.paths));
+        std::size_t const unnamed =
+            document.Unnamed().objects.size() + document.Unnamed().unreadable.size();
+        if (unnamed > 0 && from.what == Selection::What::Document)
+            m_console.Say("no name leads to " + Counted(static_cast<long long>(unnamed), "object") +
+                          " more, which the file keeps");
         return exitFine;
     }
 
@@ -501,21 +507,18 @@ private:
         } else {
             for (Finding const& finding : findings) ResultLine(finding);
             for (Finding const& note : notes) ResultLine(note);
-            m_console.Say((findings.empty() ? "no findings" : Counted(findings.size(), "finding")) +
-                          (notes.empty() ? "" : ", " + Counted(notes.size(), "note")));
+            m_console.Say((findings.empty() ? "no findings" : Count(findings, "finding")) +
+                          (notes.empty() ? "" : ", " + Count(notes, "note")));
         }
         return findings.empty() ? exitFine : exitFindings;
     }
-    static std::string Counted(std::size_t count, char const* what) {
-        return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+    static std::string Count(std::vector<Finding> const& findings, char const* what) {
+        return Counted(static_cast<long long>(findings.size()), what);
     }
     void ResultLine(Finding const& finding) {
-        std::string const code = finding.code < 0
-                                     ? std::string()
-                                     : finding.module + " " + std::to_string(finding.code) + ": ";
         m_console.Result(std::string(finding.note ? "note: " : "") +
-                         m_console.Strong(finding.path) + ": " + m_console.Alarming(code) +
-                         Printable(finding.message) + "\n");
+                         m_console.Strong(finding.path) + ": " +
+                         m_console.Alarming(CodeText(finding)) + Printable(finding.message) + "\n");
     }
     static std::string FindingsJson(Document const& document, std::vector<Finding> const& findings,
                                     std::vector<Finding> const* notes) {
@@ -528,26 +531,14 @@ private:
         writer.EndObject();
         return writer.Take();
     }
-    static void AddFindings(JsonWriter& writer, char const* key,
-                            std::vector<Finding> const& findings) {
-        writer.Key(key);
-        writer.BeginArray();
-        for (Finding const& finding : findings) {
-            writer.BeginObject();
-            writer.Key("path");
-            writer.String(finding.path);
-            writer.Key("module");
-            writer.String(finding.module);
-            writer.Key("code");
-            if (finding.code < 0)
-                writer.Null();
-            else
-                writer.Int(finding.code);
-            writer.Key("message");
-            writer.String(finding.message);
-            writer.EndObject();
-        }
-        writer.EndArray();
+    /// "[#####               ]  25 %".
+    static std::string Bar(double done) {
+        constexpr int width = 20;
+        int const marks = static_cast<int>(done * width);
+        std::string const percent = std::to_string(static_cast<int>(done * 100));
+        return "[" + std::string(static_cast<std::size_t>(marks), '#') +
+               std::string(static_cast<std::size_t>(width - marks), ' ') + "] " +
+               std::string(3 - percent.size(), ' ') + percent + " %";
     }
 
     int Upgrade() {
@@ -561,12 +552,22 @@ private:
         options.complete = !m_arguments.noComplete;
         bool shown = false;
         if (m_console.ShowsProgress())
-            options.progress = [&](long long rows) {
+            options.progress = [&](double done) {
                 shown = true;
-                m_console.Progress("upgrading: " + std::to_string(rows) + " rows");
+                m_console.Progress("upgrading " + Bar(done));
             };
-        UpgradeOutcome const outcome = nga::Upgrade(m_arguments.file, options);
-        if (shown) m_console.Progress("");
+        // Also where the upgrade fails: the line would stand before the failure.
+        struct Shown {
+            Console& console;
+            bool const& shown;
+            ~Shown() {
+                if (shown) console.Progress("");
+            }
+        };
+        UpgradeOutcome const outcome = [&] {
+            Shown const ending{m_console, shown};
+            return nga::Upgrade(m_arguments.file, options);
+        }();
         m_console.Result(m_arguments.json ? UpgradeJson(outcome) : UpgradeText(outcome));
         if (!outcome.file.backup.empty())
             m_console.Say(std::string(outcome.dryRun ? "the old database would be "
@@ -585,9 +586,8 @@ private:
                                              tolerance, m_arguments.json);
         m_console.Result(report.text);
         if (!m_arguments.json)
-            m_console.Say(report.count == 0
-                              ? "no differences"
-                              : Counted(static_cast<std::size_t>(report.count), "difference"));
+            m_console.Say(report.count == 0 ? "no differences"
+                                            : Counted(report.count, "difference"));
         return report.count == 0 ? exitFine : exitFindings;
     }
 

@@ -170,6 +170,20 @@ void AddUnusable(std::vector<std::string>& paths, Budget& budget,
     }
 }
 
+void CheckNamed(std::vector<Finding>& findings, Budget& budget, CheckDepth depth,
+                Collection const& collection, std::string_view name, void const* object,
+                std::string const& path) {
+    // Beside what the object itself breaks: the name is no part of it.
+    if (int const code = collection.CodeOfName(name); code >= 0) {
+        mdl_Module const& module = *collection.Held().Module();
+        findings.push_back(
+            {path, module.prefix, code, std::string(module.errorText(code).View()), false});
+    }
+    mdl_Description const* description =
+        object ? mdl_Description::Find(collection.DynTypeIdOf(object)) : nullptr;
+    if (description) Recorder(findings, budget, depth, *description, object, path).Run();
+}
+
 }  // namespace
 
 std::vector<std::string> UnusableNames(Document const& document) {
@@ -210,17 +224,17 @@ std::vector<Finding> Check(Document const& document, CheckDepth depth) {
     Budget budget = BudgetOf(document);
     for (Collection const* collection : Collection::All())
         collection->Each(document.Model(), [&](cow_String const& key, void const* object) {
-            mdl_Description const* description =
-                object ? mdl_Description::Find(collection->DynTypeIdOf(object)) : nullptr;
-            std::string const path = EntryPath(root, *collection, key.View());
-            // Beside what the object itself breaks: the name is no part of it.
-            if (int const code = collection->CodeOfName(key.View()); code >= 0) {
-                mdl_Module const& module = *collection->Held().Module();
-                findings.push_back(
-                    {path, module.prefix, code, std::string(module.errorText(code).View()), false});
-            }
-            if (description) Recorder(findings, budget, depth, *description, object, path).Run();
+            CheckNamed(findings, budget, depth, *collection, key.View(), object,
+                       EntryPath(root, *collection, key.View()));
         });
+    return findings;
+}
+
+std::vector<Finding> Check(Collection const& collection, std::string const& name,
+                           void const* object, std::string const& path, CheckDepth depth) {
+    std::vector<Finding> findings;
+    Budget budget;
+    CheckNamed(findings, budget, depth, collection, name, object, path);
     return findings;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "nga_Collection.h"
 #include "nga_Document.h"
 
 namespace nga {
@@ -32,6 +33,11 @@ std::vector<Finding> Check(Document const& document, CheckDepth depth = CheckDep
 /// The same for one object of a described class, known by that path.
 std::vector<Finding> Check(mdl_Description const& description, void const* object,
                            std::string const& path, CheckDepth depth = CheckDepth::Asked);
+
+/// The same for what a collection holds under a name, with the name itself.
+std::vector<Finding> Check(Collection const& collection, std::string const& name,
+                           void const* object, std::string const& path,
+                           CheckDepth depth = CheckDepth::Asked);
 
 /// The message of the first rule that an object of a described class breaks, in one line; empty if
 /// it is valid.

@@ -39,12 +39,12 @@ Document Document::New(std::string const& name) {
     return Document(std::make_unique<ddr_Model>(cow_String(std::string_view(name))));
 }
 
-Document Document::Open(std::string const& path) { return OpenAs(path, std::string()); }
-
-Document Document::OpenAs(std::string const& path, std::string const& name) {
+Document Document::Open(std::string const& path) {
     Start();
     FileStamp stamp;
-    Document document(LoadModel(path, &stamp, name));
+    Leftovers unnamed;
+    Document document(LoadModel(path, &stamp, &unnamed));
+    document.m_unnamed = std::move(unnamed);
     if (std::string const place = NameOfNothing(*document.m_model); !place.empty())
         throw StoreError(path, place + " is a name without an object");
     document.m_file = path;
@@ -55,8 +55,18 @@ Document Document::OpenAs(std::string const& path, std::string const& name) {
 void Document::Write(std::string const& path, FileStamp const& expected) {
     if (std::string const place = NameOfNothing(*m_model); !place.empty())
         throw Error("the name has no object, so nothing was saved", place);
-    SeparateIdentities(*m_model);
+    if (!m_unnamed.unreadable.empty())
+        throw Error(
+            "the file has an object that no name leads to and that cannot be read, and "
+            "saving would lose it",
+            m_unnamed.unreadable.front(), 0,
+            "an export and an import into a new file, which leave such objects behind");
+    std::vector<TypedObject> unnamed;
+    for (Leftovers::Object const& each : m_unnamed.objects)
+        unnamed.push_back({each.typeId, each.object.ErasedReferent()});
+    SeparateIdentities(*m_model, unnamed);
     SaveOptions options;
+    options.leftovers = &m_unnamed;
     options.expected = expected;
     options.isEmpty = [](mdl_Extension const& extension) {
         return extension.DynTypeId() == HostExtension::TypeId() &&

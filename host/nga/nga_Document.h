@@ -7,6 +7,7 @@
 #include "klcC_LoadCase.h"
 #include "kmaC_Material.h"
 #include "nga_FileStamp.h"
+#include "nga_Store.h"
 
 namespace nga {
 
@@ -18,8 +19,6 @@ public:
     static Document New(std::string const& name);
     /// The document of a file, named by the file's stem. Opening never writes.
     static Document Open(std::string const& path);
-    /// The same under another name, for a file that is to take the place of one of that name.
-    static Document OpenAs(std::string const& path, std::string const& name);
 
     Document(Document&&) noexcept;
     Document& operator=(Document&&) noexcept;
@@ -42,6 +41,9 @@ public:
 
     kmaC_MaterialContainer& Materials();
     kmaC_MaterialContainer const& Materials() const;
+    /// What came with the file and no name leads to. It goes along with every save, unchanged.
+    Leftovers const& Unnamed() const { return m_unnamed; }
+
     klcC_LoadCaseCont& LoadCases();
     klcC_LoadCaseCont const& LoadCases() const;
 
@@ -54,6 +56,7 @@ private:
     void Write(std::string const& path, FileStamp const& expected);
 
     std::unique_ptr<ddr_Model> m_model;
+    Leftovers m_unnamed;
     std::string m_file;
     /// How the file was when this document last met it.
     FileStamp m_stamp;

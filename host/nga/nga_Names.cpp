@@ -160,4 +160,8 @@ int Utf8Length(std::string_view text) {
     return 0;
 }
 
+std::string Counted(long long count, char const* what) {
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
 }  // namespace nga

@@ -33,4 +33,7 @@ std::string Printable(std::string_view text);
 /// The length of the UTF-8 character at the start of \p text, or 0 if the bytes there are none.
 int Utf8Length(std::string_view text);
 
+/// "1 row", "3 rows".
+std::string Counted(long long count, char const* what);
+
 }  // namespace nga

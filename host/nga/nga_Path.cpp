@@ -10,9 +10,8 @@
 
 namespace nga {
 
-std::string DocumentPath(Document const& document) {
-    return "documents" + KeyStep(document.Name());
-}
+std::string DocumentPath(std::string const& name) { return "documents" + KeyStep(name); }
+std::string DocumentPath(Document const& document) { return DocumentPath(document.Name()); }
 
 std::string EntryPath(std::string const& documentPath, Collection const& collection,
                       std::string_view key) {

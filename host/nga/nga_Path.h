@@ -13,6 +13,7 @@ namespace nga {
 // optional object that a script reaches by a key has that key's step; all else is an attribute.
 
 /// documents['NAME'].
+std::string DocumentPath(std::string const& name);
 std::string DocumentPath(Document const& document);
 /// The path of an object, for one of whose document the path is given.
 std::string EntryPath(std::string const& documentPath, Collection const& collection,

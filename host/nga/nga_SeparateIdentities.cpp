@@ -310,8 +310,11 @@ int Separate(Start start) {
 
 }  // namespace
 
-int SeparateIdentities(ddr_Model& model) {
-    return Separate([&](auto walk) { walk.Model(model); });
+int SeparateIdentities(ddr_Model& model, std::vector<TypedObject> const& others) {
+    return Separate([&](auto walk) {
+        walk.Model(model);
+        walk.Objects(others);
+    });
 }
 
 int SeparateIdentities(std::vector<TypedObject> const& objects) {

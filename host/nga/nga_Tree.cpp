@@ -19,10 +19,6 @@ std::string SizeText(cls_xp2DArrayDouble const& cells) {
     return std::to_string(cells.Rows()) + " x " + std::to_string(cells.Columns());
 }
 
-std::string Counted(int count, char const* what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
 int SizeOfList(mdl_FieldType const& type, void const* at) {
     return type.Kind() == mdl_FieldKind::IntList
                ? static_cast<cls_xp1DArrayListInt const*>(at)->Size()

@@ -1,47 +1,41 @@
 #include "nga_Upgrade.h"
 
+#include "nga_Findings.h"
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
 #include "nga_Path.h"
 #include "nga_SqliteDatabase.h"
 #include "nga_Start.h"
 #include "nga_Store.h"
+#include "nga_StoredFile.h"
 
 namespace nga {
 
 namespace {
 
-std::string Counted(long long count, char const* what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
-// Every object by itself where the document cannot be read as a whole.
-void Inspect(std::string const& part, UpgradeOutcome& outcome) {
-    std::string const name = Document::StemOf(outcome.output);
-    std::string failure;
-    try {
-        Document const document = Document::OpenAs(part, name);
-        outcome.findings = Check(document);
-        return;
-    } catch (StoreError const& error) {
-        failure = error.Cause();
-    }
-    Document const document = Document::New(name);
-    auto const pathOf = [&](std::string const& collection, std::string const& object) {
-        return DocumentPath(document) + "." + collection + KeyStep(object);
+// Object by object, so that a file of any size is looked at in the same memory.
+void Inspect(std::string const& part, dbc_References const& references, UpgradeOutcome& outcome) {
+    std::string const root = DocumentPath(Document::StemOf(outcome.output));
+    auto const unreadable = [&](std::string const& path, std::string const& cause) {
+        outcome.unreadable.push_back({path, "", -1, cause, false});
     };
-    auto const check = [&](std::string const& collection, std::string const& object,
-                           unsigned typeId, void const* read) {
-        mdl_Description const* const description = mdl_Description::Find(typeId);
-        if (!description || !read) return;
-        for (Finding& finding : Check(*description, read, pathOf(collection, object)))
+    auto const check = [&](std::string const& name, std::string const& key, unsigned typeId,
+                           void const* object) {
+        std::string const path = root + "." + name + KeyStep(key);
+        Collection const* const collection = Collection::FindByName(name);
+        if (!collection || !StoredClasses().IsParent(typeId, collection->Held().TypeId()))
+            return unreadable(path, "an object of a class that it cannot hold");
+        for (Finding& finding : Check(*collection, key, object, path))
             outcome.findings.push_back(std::move(finding));
     };
-    for (UnreadableObject const& object : FindUnreadable(part, check))
-        outcome.unreadable.push_back(
-            {pathOf(object.collection, object.name), "", -1, object.cause, false});
-    if (outcome.unreadable.empty())
-        outcome.unreadable.push_back({DocumentPath(document), "", -1, failure, false});
+    try {
+        for (UnreadableObject const& each : FindUnreadable(part, check, references.unreferenced))
+            unreadable(
+                each.collection.empty() ? root : root + "." + each.collection + KeyStep(each.name),
+                each.cause);
+    } catch (StoreError const& error) {
+        unreadable(root, error.Cause());
+    }
 }
 
 std::string ChainText(dbc_ClassReport const& report) {
@@ -86,10 +80,7 @@ std::string ClassText(dbc_ClassReport const& report) {
 }
 
 std::string FindingText(Finding const& finding) {
-    std::string const code = finding.code < 0
-                                 ? std::string()
-                                 : finding.module + " " + std::to_string(finding.code) + ": ";
-    return "  " + finding.path + ": " + code + Printable(finding.message) + "\n";
+    return "  " + finding.path + ": " + CodeText(finding) + Printable(finding.message) + "\n";
 }
 
 void AddCounts(JsonWriter& writer, char const* key,
@@ -155,27 +146,6 @@ void AddClass(JsonWriter& writer, dbc_ClassReport const& report) {
     writer.EndObject();
 }
 
-void AddFindings(JsonWriter& writer, char const* key, std::vector<Finding> const& findings) {
-    writer.Key(key);
-    writer.BeginArray();
-    for (Finding const& finding : findings) {
-        writer.BeginObject();
-        writer.Key("path");
-        writer.String(finding.path);
-        writer.Key("module");
-        writer.String(finding.module);
-        writer.Key("code");
-        if (finding.code < 0)
-            writer.Null();
-        else
-            writer.Int(finding.code);
-        writer.Key("message");
-        writer.String(finding.message);
-        writer.EndObject();
-    }
-    writer.EndArray();
-}
-
 }  // namespace
 
 UpgradeOutcome Upgrade(std::string const& path, UpgradeFileOptions options) {
@@ -184,7 +154,12 @@ UpgradeOutcome Upgrade(std::string const& path, UpgradeFileOptions options) {
     outcome.path = path;
     outcome.output = options.output.empty() ? path : options.output;
     outcome.dryRun = options.dryRun;
-    options.inspect = [&outcome](std::string const& part) { Inspect(part, outcome); };
+    options.adopt = [&outcome](rfm_Database& database, dbc_References& references) {
+        outcome.adopted = Adopt(database, references);
+    };
+    options.inspect = [&outcome](std::string const& part, dbc_References const& references) {
+        Inspect(part, references, outcome);
+    };
     outcome.file = UpgradeFile(path, options);
     return outcome;
 }
@@ -200,8 +175,11 @@ std::string UpgradeText(UpgradeOutcome const& outcome) {
     for (auto const& [typeId, report] : file.report.classes)
         if (HasNews(report)) text += ClassText(report);
     dbc_References const& references = file.report.references;
-    if (!references.unreferenced.empty())
-        text += "nothing refers to these; they stay in the file until the document is saved:\n";
+    if (!outcome.adopted.empty()) text += "no name led to these; they have one now:\n";
+    for (Adopted const& each : outcome.adopted)
+        text += "  " + each.className + " (" + Counted(each.rows, "row") + "): " + each.collection +
+                KeyStep(each.name) + "\n";
+    if (!references.unreferenced.empty()) text += "nothing refers to these; the file keeps them:\n";
     for (dbc_UnreferencedReport const& each : references.unreferenced)
         text += "  " + each.className + " (" + Counted(each.rows, "row") + ", first row " +
                 std::to_string(each.firstRow) + ")\n";
@@ -254,6 +232,21 @@ std::string UpgradeJson(UpgradeOutcome const& outcome) {
         writer.Int(each.rows);
         writer.Key("firstRow");
         writer.Int(each.firstRow);
+        writer.EndObject();
+    }
+    writer.EndArray();
+    writer.Key("adopted");
+    writer.BeginArray();
+    for (Adopted const& each : outcome.adopted) {
+        writer.BeginObject();
+        writer.Key("class");
+        writer.String(each.className);
+        writer.Key("rows");
+        writer.Int(each.rows);
+        writer.Key("collection");
+        writer.String(each.collection);
+        writer.Key("name");
+        writer.String(each.name);
         writer.EndObject();
     }
     writer.EndArray();

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "nga_Adoption.h"
 #include "nga_Check.h"
 #include "nga_UpgradeFile.h"
 
@@ -14,6 +15,8 @@ struct UpgradeOutcome {
     std::string output;  ///< where the current database is
     bool dryRun = false;
     UpgradedFile file;
+    /// What had no name, and has one now.
+    std::vector<Adopted> adopted;
     /// Named objects that cannot be read, each with its path and cause.
     std::vector<Finding> unreadable;
     /// Objects that break a rule of their class.
@@ -22,8 +25,8 @@ struct UpgradeOutcome {
     bool HasFindings() const { return !unreadable.empty() || !findings.empty(); }
 };
 
-/// Brings a file to the current schema and looks at every object of it. The options' own inspection
-/// is not used.
+/// Brings a file to the current schema, gives names to what has none where there is a place for it,
+/// and looks at every object. The options' own functions for these two are not used.
 UpgradeOutcome Upgrade(std::string const& path, UpgradeFileOptions options = {});
 
 /// The account of an upgrade for people: what was done to each class, then what is to be looked at.

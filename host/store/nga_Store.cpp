@@ -60,6 +60,9 @@ void FillDatabase(ddr_Model const& model, SaveOptions const& options, std::strin
         auto const& extension = model.ConstGetExtension(name);
         if (!LeftOut(extension, options)) transporter.Write(&extension, extension.DynTypeId());
     });
+    if (options.leftovers)
+        for (Leftovers::Object const& each : options.leftovers->objects)
+            transporter.Write(each.object.ErasedReferent(), each.typeId);
     database->AddIndex(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
                        rom_Layout::MapEntryKey);
     database->Finish();
@@ -80,25 +83,40 @@ FileStamp SaveModel(ddr_Model const& model, std::string const& path, SaveOptions
     });
 }
 
+namespace {
+
+std::unique_ptr<SqliteDatabase> OpenModel(StoredFile const& file) {
+    std::unique_ptr<SqliteDatabase> database = file.Open();
+    database->Tables();
+    database->RequireUnique(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
+                            rom_Layout::MapEntryKey);
+    return database;
+}
+
+// The table in whose row 0 an extension stands; null where the file has none of it.
+rfm_Table* ExtensionTable(StoredFile const& file, SqliteDatabase& database,
+                          mdl_Extension const& prototype) {
+    rfm_Table* const table = database.FindTable(prototype.DynTypeId());
+    if (!table || table->RowCount() == 0) return nullptr;
+    if (table->RowCount() > 1)
+        file.Fail("table " + std::string(table->Metadata().Name().View()) +
+                  " holds more than the one row of the model");
+    return table;
+}
+
+}  // namespace
+
 std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp,
-                                     std::string const& name) {
+                                     Leftovers* leftovers) {
     return OnFile(path, [&] {
         StoredFile const file(path);
-        std::string const given = name.empty() ? StemOf(path) : name;
-        auto model = std::make_unique<ddr_Model>(cow_String(std::string_view(given)));
+        auto model = std::make_unique<ddr_Model>(cow_String(std::string_view(StemOf(path))));
         {
-            std::unique_ptr<SqliteDatabase> const database = file.Open();
-            database->Tables();
-            database->RequireUnique(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
-                                    rom_Layout::MapEntryKey);
+            std::unique_ptr<SqliteDatabase> const database = OpenModel(file);
             rom_Transporter transporter(*database, StoredClasses());
             ddr_Model::RegisteredExtensions().Each(
                 [&](cow_String const& name, mdl_Extension const& prototype) {
-                    rfm_Table* const table = database->FindTable(prototype.DynTypeId());
-                    if (!table || table->RowCount() == 0) return;
-                    if (table->RowCount() > 1)
-                        file.Fail("table " + std::string(table->Metadata().Name().View()) +
-                                  " holds more than the one row of the model");
+                    if (!ExtensionTable(file, *database, prototype)) return;
                     try {
                         cow_ErasedHandle const read = transporter.Read(prototype.DynTypeId(), 0);
                         auto const* extension =
@@ -108,6 +126,13 @@ std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp,
                         FailRead(file, transporter, exception);
                     }
                 });
+            if (leftovers)
+                for (rom_Transporter::Unreferenced& each : transporter.ReadUnreferenced()) {
+                    if (each.object)
+                        leftovers->objects.push_back({each.typeId, std::move(*each.object)});
+                    else
+                        leftovers->unreadable.push_back(std::move(each.failure));
+                }
         }
         file.CheckUnchanged();
         if (stamp) *stamp = file.Stamp();
@@ -117,72 +142,116 @@ std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp,
 
 namespace {
 
-// The rows of a map from names, to which a field of an extension's row refers.
-void EachEntry(rfm_Database& database, int map,
+/// Reads objects one by one, and keeps none of them for long.
+class SingleReader {
+public:
+    explicit SingleReader(rfm_Database& database) : m_transporter(database, StoredClasses()) {}
+
+    /// None, with the cause, where the object cannot be read.
+    std::optional<cow_ErasedHandle> Read(unsigned typeId, int oid, std::string& failure) {
+        // What objects share is read once as long as it is not forgotten.
+        if (++m_read % forgetAfter == 0) m_transporter.Forget();
+        try {
+            return m_transporter.Read(typeId, oid);
+        } catch (nex_Exception const& exception) {
+            std::string const place = m_transporter.FailedAt();
+            failure = (place.empty() ? "" : place + ": ") + TextOf(exception);
+            m_transporter.Forget();
+            return std::nullopt;
+        }
+    }
+
+private:
+    static constexpr int forgetAfter = 256;
+    rom_Transporter m_transporter;
+    int m_read = 0;
+};
+
+// Hands over the entries of a map from names: the name, the class and the row, which is -1 where
+// the name leads to none.
+void EachEntry(StoredFile const& file, rfm_Database& database, int map,
                std::function<void(std::string const&, unsigned, int)> const& each) {
     rfm_Table* const maps = database.FindTable(cls_MapTypeId);
     rfm_Table* const entries = database.FindTable(rom_Layout::mapEntryTypeId);
-    if (!maps || !entries) return;
-    std::unique_ptr<rfm_Cursor> const at = maps->OpenCursor();
-    if (!at->Seek(map)) return;
+    std::unique_ptr<rfm_Cursor> const at = maps ? maps->OpenCursor() : nullptr;
+    if (!at || !at->Seek(map) ||
+        at->Value(rom_Layout::MapKind).integer != static_cast<long long>(cls_CollectionMapString))
+        file.Fail("a repository has no map of names");
     long long const first = at->Value(rom_Layout::MapFirst).integer;
     long long const count = at->Value(rom_Layout::MapCount).integer;
+    long long const rows = entries ? entries->RowCount() : 0;
+    if (first < 0 || count < 0 || first > rows || count > rows - first)
+        file.Fail("row " + std::to_string(map) + " of table cls_Map has a count out of range");
+    if (count == 0) return;
     std::unique_ptr<rfm_Cursor> const entry = entries->OpenCursor();
     for (long long row = first; row < first + count; ++row) {
-        if (row < 0 || row > INT_MAX || !entry->Seek(static_cast<int>(row))) return;
+        entry->Seek(static_cast<int>(row));
+        rfm_Value const owner = entry->Value(rom_Layout::MapEntryOwner);
         rfm_Value const key = entry->Value(rom_Layout::MapEntryKey);
         rfm_Value const typeId = entry->Value(rom_Layout::MapEntryClass);
         rfm_Value const oid = entry->Value(rom_Layout::MapEntryOid);
-        if (key.tag != rfm_Value::Text || typeId.tag != rfm_Value::Int || oid.tag != rfm_Value::Int)
-            continue;
+        if (owner.tag != rfm_Value::Int || owner.integer != map || key.tag != rfm_Value::Text)
+            file.Fail("row " + std::to_string(row) + " of table cls_MapEntry is no entry of row " +
+                      std::to_string(map) + " of table cls_Map");
+        bool const leads = typeId.tag == rfm_Value::Int && oid.tag == rfm_Value::Int &&
+                           oid.integer >= 0 && oid.integer <= INT_MAX;
         each(std::string(key.text, static_cast<std::size_t>(key.length)),
-             static_cast<unsigned>(typeId.integer), static_cast<int>(oid.integer));
+             leads ? static_cast<unsigned>(typeId.integer) : 0,
+             leads ? static_cast<int>(oid.integer) : -1);
+    }
+}
+
+// Hands over the map of each repository in an extension's row, with the repository's name.
+void EachMap(rfm_Table& table, cow_String const& extension,
+             std::function<void(std::string const&, int)> const& each) {
+    std::unique_ptr<rfm_Cursor> const row = table.OpenCursor();
+    if (!row->Seek(0)) return;
+    rfm_TableMetadata const& layout = table.Metadata();
+    for (int i = 0; i + 1 < layout.ColumnCount(); ++i) {
+        std::string const column = layout.Columns()[static_cast<std::size_t>(i)].name.Text();
+        std::size_t const ending = column.rfind("#ClassID");
+        rfm_Value const map = row->Value(i + 1);
+        if (ending == std::string::npos || map.tag != rfm_Value::Int ||
+            row->Value(i).integer != static_cast<long long>(cls_MapTypeId))
+            continue;
+        std::string field = column.substr(0, ending);
+        if (field == "extension") field = extension.Text();
+        each(field, static_cast<int>(map.integer));
     }
 }
 
 }  // namespace
 
-std::vector<UnreadableObject> FindUnreadable(std::string const& path,
-                                             ReadableObject const& readable) {
+std::vector<UnreadableObject> FindUnreadable(
+    std::string const& path, ReadableObject const& readable,
+    std::vector<dbc_UnreferencedReport> const& unreferenced) {
     return OnFile(path, [&] {
         StoredFile const file(path);
-        std::unique_ptr<SqliteDatabase> const database = file.Open();
+        std::unique_ptr<SqliteDatabase> const database = OpenModel(file);
+        SingleReader reader(*database);
         std::vector<UnreadableObject> result;
+        std::string failure;
         ddr_Model::RegisteredExtensions().Each(
-            [&](cow_String const& name, mdl_Extension const& prototype) {
-                rfm_Table* const table = database->FindTable(prototype.DynTypeId());
-                if (!table || table->RowCount() != 1) return;
-                std::unique_ptr<rfm_Cursor> const row = table->OpenCursor();
-                if (!row->Seek(0)) return;
-                rfm_TableMetadata const& layout = table->Metadata();
-                for (int i = 0; i + 1 < layout.ColumnCount(); ++i) {
-                    std::string const column =
-                        layout.Columns()[static_cast<std::size_t>(i)].name.Text();
-                    std::size_t const ending = column.rfind("#ClassID");
-                    rfm_Value const map = row->Value(i + 1);
-                    if (ending == std::string::npos || map.tag != rfm_Value::Int ||
-                        row->Value(i).integer != static_cast<long long>(cls_MapTypeId))
-                        continue;
-                    std::string field = column.substr(0, ending);
-                    if (field == "extension") field = name.Text();
-                    EachEntry(*database, static_cast<int>(map.integer),
+            [&](cow_String const& extension, mdl_Extension const& prototype) {
+                rfm_Table* const table = ExtensionTable(file, *database, prototype);
+                if (!table) return;
+                EachMap(*table, extension, [&](std::string const& collection, int map) {
+                    EachEntry(file, *database, map,
                               [&](std::string const& key, unsigned typeId, int oid) {
-                                  rom_Transporter transporter(*database, StoredClasses());
+                                  failure = "a name without an object";
                                   std::optional<cow_ErasedHandle> read;
-                                  try {
-                                      read.emplace(transporter.Read(typeId, oid));
-                                  } catch (nex_Exception const& failure) {
-                                      std::string const place = transporter.FailedAt();
-                                      result.push_back(
-                                          {field, key,
-                                           (place.empty() ? "" : place + ": ") + TextOf(failure)});
-                                      return;
-                                  }
-                                  if (readable)
-                                      readable(field, key, typeId, read->ErasedReferent());
+                                  if (oid >= 0) read = reader.Read(typeId, oid, failure);
+                                  if (!read)
+                                      result.push_back({collection, key, failure});
+                                  else if (readable)
+                                      readable(collection, key, typeId, read->ErasedReferent());
                               });
-                }
+                });
             });
+        for (dbc_UnreferencedReport const& each : unreferenced)
+            for (std::size_t row = 0; row < each.reached.size(); ++row)
+                if (!each.reached[row] && !reader.Read(each.typeId, static_cast<int>(row), failure))
+                    result.push_back({"", "", failure});
         return result;
     });
 }

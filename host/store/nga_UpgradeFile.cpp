@@ -29,6 +29,9 @@ namespace {
 constexpr std::size_t copyBuffer = 1 << 20;
 constexpr std::size_t copyAtOnce = 1 << 30;
 constexpr int backupsAtMost = 1000;
+// How far an upgrade is when its rows are converted, and when their references are known.
+constexpr double converted = 0.6;
+constexpr double lookedAt = 0.75;
 
 class OpenFile {
 public:
@@ -100,19 +103,19 @@ std::string KeepBeside(std::string const& path, int schema) {
         std::string const backup = BackupName(path, schema, number);
         if (link(source.c_str(), backup.c_str()) == 0) return backup;
         if (errno == EEXIST) continue;
-        struct stat state;
+        struct stat state, taken;
         if (stat(source.c_str(), &state) != 0)
             throw StoreError(path,
                              std::string("it cannot be kept beside: ") + std::strerror(errno));
-        OpenFile const target(backup, O_WRONLY | O_CREAT | O_EXCL, state.st_mode & 0777);
-        if (target.Get() < 0 && errno == EEXIST) continue;
-        OpenFile const from(source, O_RDONLY);
-        if (target.Get() < 0 || from.Get() < 0 || !CopyBytes(from.Get(), target.Get()) ||
-            fsync(target.Get()) != 0) {
-            int const why = errno;
-            if (target.Get() >= 0) unlink(backup.c_str());
-            throw StoreError(path,
-                             "it cannot be kept beside as " + backup + ": " + std::strerror(why));
+        if (lstat(backup.c_str(), &taken) == 0) continue;
+        try {
+            // Under its name stands a whole copy or none, whatever happens meanwhile.
+            SafeFile copy(backup);
+            if (chmod(copy.PartPath().c_str(), state.st_mode & 07777) != 0) errno = 0;
+            CopyFile(source, copy.PartPath());
+            copy.Commit();
+        } catch (StoreError const& error) {
+            throw StoreError(path, "it cannot be kept beside as " + backup + ": " + error.Cause());
         }
         return backup;
     }
@@ -133,8 +136,8 @@ dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
     dbc_UpgradeOptions options;
     options.complete = work.options.complete;
     if (work.options.progress) {
-        options.progress = [](void* context, long long rows) {
-            (*static_cast<std::function<void(long long)> const*>(context))(rows);
+        options.progress = [](void* context, double done) {
+            (*static_cast<std::function<void(double)> const*>(context))(done * converted);
         };
         options.progressContext =
             const_cast<void*>(static_cast<void const*>(&work.options.progress));
@@ -147,18 +150,26 @@ dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
                             omi_Singleton<dbc_OldClassRegistrar>::Instance(), options);
         report = upgrade.Run();
     }
+    // What comes now goes over the rows once more each.
+    auto const progress = [&](double done) {
+        if (work.options.progress) work.options.progress(done);
+    };
+    progress(converted);
     report.references = dbc_Upgrade::LookAtReferences(*database, current);
+    progress(lookedAt);
     // Nothing refers to what the model itself holds.
     ddr_Model::RegisteredExtensions().Each([&](cow_String const&, mdl_Extension const& extension) {
         std::erase_if(report.references.unreferenced, [&](dbc_UnreferencedReport const& each) {
             return each.typeId == extension.DynTypeId();
         });
     });
+    if (work.options.adopt) work.options.adopt(*database, report.references);
     database->AddIndex(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
                        rom_Layout::MapEntryKey);
     database->Finish();
     work.file.CheckUnchanged();
-    if (work.options.inspect) work.options.inspect(part);
+    if (work.options.inspect) work.options.inspect(part, report.references);
+    progress(1.0);
     return report;
 }
 

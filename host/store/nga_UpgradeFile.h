@@ -5,6 +5,7 @@
 
 #include "dbc_UpgradeReport.h"
 #include "nga_FileStamp.h"
+#include "rfm_Database.h"
 
 namespace nga {
 
@@ -16,11 +17,14 @@ struct UpgradeFileOptions {
     bool dryRun = false;
     /// Give enumerations that were left without a literal that of their class's default.
     bool complete = true;
-    /// Called now and then with how many rows were brought over so far.
-    std::function<void(long long rows)> progress;
+    /// Called now and then with how far the upgrade is, from 0 to 1.
+    std::function<void(double done)> progress;
+    /// Gives names to objects of the new database that none leads to, and takes them out of the
+    /// list.
+    std::function<void(rfm_Database& database, dbc_References& references)> adopt;
     /// Looks at the new file, under this path, before it takes its place; what it raises ends the
     /// upgrade.
-    std::function<void(std::string const& part)> inspect;
+    std::function<void(std::string const& part, dbc_References const& references)> inspect;
 };
 
 /// What became of a file.

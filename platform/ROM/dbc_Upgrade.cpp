@@ -51,6 +51,7 @@ dbc_UpgradeReport dbc_Upgrade::Run() {
         report.rowsIn = table->Storage()->RowCount();
     }
     Declare();
+    m_converter.Tables().rowsExpected = RowsExpected();
     bool renamed = false;
     for (auto const& [version, step] : m_converter.Steps()) {
         if (IsAfterLast(version)) break;
@@ -121,6 +122,37 @@ int dbc_Upgrade::LastVersion(unsigned typeId, int version) const {
             version = target;
     }
     return version;
+}
+
+long long dbc_Upgrade::RowsExpected() {
+    long long expected = 0;
+    for (auto const& [typeId, table] : m_converter.Tables().All()) {
+        if (!table->Exists()) continue;
+        long long const rows = table->Storage()->RowCount();
+        int version = table->Version();
+        unsigned steppedId = typeId;
+        auto const walk = [&] {
+            for (auto const& [target, step] : m_converter.Steps()) {
+                auto const declared = step.Classes().find(steppedId);
+                if (declared == step.Classes().end() || declared->second.oldVersion != version)
+                    continue;
+                version = target;
+                expected += rows;
+            }
+        };
+        walk();
+        for (OldClass const* old : m_renamed) {
+            if (old->layout.TypeId() != typeId) continue;
+            steppedId = m_converter.Layouts().TypeIdOf(
+                cow_String(*m_converter.ClassNames().ConstFind(old->layout.Name())));
+            version = versionOfRenames;
+            expected += rows;
+            walk();
+        }
+        cls_ClassMetadata const* const current = m_current.Find(steppedId);
+        if (current && current->Version() != version) expected += rows;
+    }
+    return expected;
 }
 
 // ---- steps -------------------------------------------------------------------------------------
@@ -403,12 +435,19 @@ dbc_References dbc_Upgrade::LookAtReferences(rfm_Database& database,
     for (rfm_Table* table : database.Tables())
         reached[table->Metadata().TypeId()].resize(static_cast<std::size_t>(table->RowCount()));
     dbc_References result;
-    for (rfm_Table* table : database.Tables()) {
+    auto const look = [&](rfm_Table* table, int ownerColumn, std::vector<bool> const& owners) {
         std::vector<Reference> references = ReferencesOf(table->Metadata(), current);
-        if (references.empty()) continue;
+        if (references.empty()) return;
         std::unique_ptr<rfm_Cursor> const cursor = table->OpenCursor();
         for (int oid = 0, rows = table->RowCount(); oid < rows; ++oid) {
             if (!cursor->Seek(oid)) continue;
+            if (ownerColumn >= 0) {
+                rfm_Value const owner = cursor->Value(ownerColumn);
+                if (owner.tag != rfm_Value::Int || owner.integer < 0 ||
+                    owner.integer >= static_cast<long long>(owners.size()) ||
+                    !owners[static_cast<std::size_t>(owner.integer)])
+                    continue;
+            }
             for (Reference& each : references) {
                 rfm_Value const number = cursor->Value(each.oidColumn);
                 if (number.tag != rfm_Value::Int) continue;
@@ -427,14 +466,26 @@ dbc_References dbc_Upgrade::LookAtReferences(rfm_Database& database,
         }
         for (Reference const& each : references)
             if (each.report.rows > 0) result.dangling.push_back(each.report);
+    };
+    for (rfm_Table* table : database.Tables()) {
+        unsigned const typeId = table->Metadata().TypeId();
+        if (typeId != rom_Layout::listEntryTypeId && typeId != rom_Layout::mapEntryTypeId)
+            look(table, -1, {});
     }
-    for (auto const& [typeId, rows] : reached) {
+    // Entries count where something refers to their collection.
+    if (rfm_Table* const entries = database.FindTable(rom_Layout::listEntryTypeId))
+        look(entries, rom_Layout::ListEntryOwner, reached[cls_ListTypeId]);
+    if (rfm_Table* const entries = database.FindTable(rom_Layout::mapEntryTypeId))
+        look(entries, rom_Layout::MapEntryOwner, reached[cls_MapTypeId]);
+    for (auto& [typeId, rows] : reached) {
         cls_ClassMetadata const* const metadata = current.Find(typeId);
         if (!metadata || !metadata->HasCtor()) continue;
-        dbc_UnreferencedReport report{typeId, metadata->Name().Text(), 0, 0};
+        dbc_UnreferencedReport report{typeId, metadata->Name().Text(), 0, 0, {}};
         for (std::size_t row = 0; row < rows.size(); ++row)
             if (!rows[row] && report.rows++ == 0) report.firstRow = static_cast<int>(row);
-        if (report.rows > 0) result.unreferenced.push_back(report);
+        if (report.rows == 0) continue;
+        report.reached = std::move(rows);
+        result.unreferenced.push_back(std::move(report));
     }
     return result;
 }

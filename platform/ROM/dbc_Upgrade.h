@@ -13,8 +13,8 @@ struct dbc_UpgradeOptions {
     bool complete = true;
     /// No step beyond this version is run, and the database stays one of that time. 0: all are.
     int lastVersion = 0;
-    /// Called now and then with how many rows were brought over.
-    void (*progress)(void* context, long long rows) = nullptr;
+    /// Called now and then with how much of the rows' way is behind them, from 0 to 1.
+    void (*progress)(void* context, double done) = nullptr;
     void* progressContext = nullptr;
 };
 
@@ -48,6 +48,8 @@ private:
 
     void Declare();
     int LastVersion(unsigned typeId, int version) const;
+    /// How many rows the run is to bring over, each as often as it has a step before it.
+    long long RowsExpected();
     bool IsAfterLast(int version) const {
         return m_options.lastVersion != 0 && version > m_options.lastVersion;
     }

@@ -47,6 +47,7 @@ struct dbc_UnreferencedReport {
     std::string className;
     long long rows = 0;
     int firstRow = 0;
+    std::vector<bool> reached;  ///< by row, whether something refers to it
 };
 
 /// What the references of a database lead to, and what they do not.

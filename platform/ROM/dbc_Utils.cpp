@@ -41,9 +41,13 @@ std::string DerivedUid(dbc_Row const& owner, char const* field) {
     seed += '.';
     seed += field;
     seed += '@' + std::to_string(Run().StepVersion());
+    return UidOf(seed);
+}
+
+std::string UidOf(std::string const& text) {
     unsigned char bytes[16];
     std::uint64_t low = 0xcbf29ce484222325u, high = 0x9e3779b97f4a7c15u;
-    for (char letter : seed) {
+    for (char letter : text) {
         auto const byte = static_cast<unsigned char>(letter);
         low = (low ^ byte) * 0x100000001b3u;
         high = Spread(high + byte + 1);

@@ -35,5 +35,7 @@ std::unique_ptr<rfm_Array<double, 4>> SetNewAttributeArrayDoubleInOutputDatabase
 
 /// The identity of a row that a step makes for a field of another.
 std::string DerivedUid(dbc_Row const& owner, char const* field);
+/// An identity that follows from a text, 16 bytes.
+std::string UidOf(std::string const& text);
 
 }  // namespace dbc_Utils

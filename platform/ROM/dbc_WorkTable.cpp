@@ -333,5 +333,7 @@ rfm_Value dbc_WorkTables::Mapped(rfm_Value value) const {
 
 void dbc_WorkTables::Progress() {
     m_rows += rowsBetweenReports;
-    if (progress) progress(progressContext, m_rows);
+    if (!progress) return;
+    double const expected = static_cast<double>(std::max(rowsExpected, m_rows));
+    progress(progressContext, static_cast<double>(m_rows) / expected);
 }

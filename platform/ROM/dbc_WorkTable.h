@@ -162,9 +162,10 @@ public:
     std::map<unsigned, unsigned> const& Renames() const { return m_renames; }
     rfm_Value Mapped(rfm_Value value) const;
 
-    /// Called after every so many rows, with how many were brought over so far.
-    void (*progress)(void* context, long long rows) = nullptr;
+    /// Called after every so many rows, with the part of all passes over rows that is done.
+    void (*progress)(void* context, double done) = nullptr;
     void* progressContext = nullptr;
+    long long rowsExpected = 0;
     void Progress();
 
 private:

@@ -179,7 +179,7 @@ public:
         if (stored[1].tag == rfm_Value::Null) return m_reader.Open(nullptr, -1);
         Origin const where{this, &field, nullptr};
         unsigned const typeId = m_reader.CheckedClass(stored[0], expected, where);
-        return m_reader.Open(&m_reader.TableFor(typeId), CheckedOid(stored[1], where));
+        return m_reader.OpenPart(m_reader.TableFor(typeId), CheckedOid(stored[1], where));
     }
 
     cls_ReadListObj* OpenList() override;
@@ -258,7 +258,7 @@ private:
         if (oid.tag != rfm_Value::Int || oid.integer < 0 || oid.integer > INT_MAX) return nullptr;
         TableReader& base = m_reader.TableFor(m_table->metadata->ParentTypeId());
         if (!base.table) Fail(Row() + " has a base in a table that is not there.", 243);
-        m_base = m_reader.Open(&base, static_cast<int>(oid.integer));
+        m_base = m_reader.OpenPart(base, static_cast<int>(oid.integer));
         return m_base;
     }
 
@@ -367,7 +367,7 @@ public:
         Origin const where{nullptr, nullptr, "An element of a list"};
         unsigned const typeId =
             m_reader.CheckedClass(m_cursor->Value(rom_Layout::ListEntryClass), m_byValue, where);
-        return m_reader.Open(&m_reader.TableFor(typeId), CheckedOid(oid, where));
+        return m_reader.OpenPart(m_reader.TableFor(typeId), CheckedOid(oid, where));
     }
 
 private:
@@ -491,6 +491,12 @@ rom_Reader::Memento* rom_Reader::Open(TableReader* table, int oid) {
     return memento;
 }
 
+rom_Reader::Memento* rom_Reader::OpenPart(TableReader& table, int oid) {
+    Memento* const memento = Open(&table, oid);
+    table.NoteReferred(oid);
+    return memento;
+}
+
 unsigned rom_Reader::CheckedClass(rfm_Value const& stored, unsigned expected, Origin const& where) {
     // A reference whose class has no value refers to the field's registered class.
     if (stored.tag == rfm_Value::Null) return expected;
@@ -505,7 +511,10 @@ unsigned rom_Reader::CheckedClass(rfm_Value const& stored, unsigned expected, Or
 cow_HandleBase const& rom_Reader::Referred(rfm_Value const& typeId, rfm_Value const& oid,
                                            unsigned expected, Origin const& where) {
     unsigned const classId = CheckedClass(typeId, expected, where);
-    return Object(classId, CheckedOid(oid, where));
+    int const row = CheckedOid(oid, where);
+    cow_HandleBase const& object = Object(classId, row);
+    TableFor(classId).NoteReferred(row);
+    return object;
 }
 
 int rom_Reader::CheckedOid(rfm_Value const& stored, Origin const& where) {
@@ -557,6 +566,39 @@ cow_HandleBase const& rom_Reader::Object(unsigned typeId, int oid) {
     // The handle owns the object also where it cannot be made.
     entry.handle.emplace(table.metadata->Ctor(visitor), table.metadata->Destroyer());
     return *entry.handle;
+}
+
+std::vector<rom_Transporter::Unreferenced> rom_Reader::Unreferenced() {
+    std::vector<rom_Transporter::Unreferenced> found;
+    for (rfm_Table* stored : m_transporter.Database().Tables()) {
+        unsigned const typeId = stored->Metadata().TypeId();
+        TableReader& table = TableFor(typeId);
+        if (!table.metadata || !table.metadata->HasCtor() || IsCollection(typeId)) continue;
+        for (int oid = 0, rows = stored->RowCount(); oid < rows; ++oid)
+            if (!table.IsReferred(oid) && !table.IsRead(oid))
+                found.push_back({typeId, oid, std::nullopt, std::string()});
+    }
+    for (rom_Transporter::Unreferenced& each : found) {
+        m_failedAt.clear();
+        try {
+            each.object.emplace(
+                static_cast<cow_ErasedHandle const&>(Object(each.typeId, each.oid)));
+        } catch (nex_Exception const& failure) {
+            // What the frame raises names its place itself.
+            std::string const text(failure.AsString().View());
+            each.failure = "row " + std::to_string(each.oid) + " of table " +
+                           TableFor(each.typeId).name.Text() + ": ";
+            if (!m_failedAt.empty() && text.find("table ") == std::string::npos)
+                each.failure += m_failedAt + ": ";
+            each.failure += text;
+        }
+    }
+    m_failedAt.clear();
+    // Reading one may have come to another that was listed before it.
+    std::erase_if(found, [&](rom_Transporter::Unreferenced const& each) {
+        return TableFor(each.typeId).IsReferred(each.oid);
+    });
+    return found;
 }
 
 void rom_Reader::NoteFailure(TableReader const& table, int oid) noexcept {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <list>
 #include <map>
 #include <memory>
@@ -21,6 +22,8 @@ public:
     cow_HandleBase const& Object(unsigned typeId, int oid);
     cow_HandleBase const& MapElement(unsigned typeId, int oid, cow_String const& field,
                                      cow_String const& key, unsigned elementTypeId);
+
+    std::vector<rom_Transporter::Unreferenced> Unreferenced();
 
     /// The row of the innermost object whose reading failed; empty if none did.
     std::string const& FailedAt() const { return m_failedAt; }
@@ -54,6 +57,22 @@ private:
         Page* lastPage = nullptr;
         int lastNumber = -1;
 
+        /// By row number, which rows something refers to; as long as the last of them.
+        std::vector<bool> referred;
+        void NoteReferred(int oid) {
+            std::size_t const row = static_cast<std::size_t>(oid);
+            if (row >= referred.size()) referred.resize(std::max(row + 1, referred.size() * 2));
+            referred[row] = true;
+        }
+        bool IsReferred(int oid) const {
+            std::size_t const row = static_cast<std::size_t>(oid);
+            return row < referred.size() && referred[row];
+        }
+
+        bool IsRead(int oid) const {
+            auto const page = pages.find(oid / 64);
+            return page != pages.end() && page->second->entries[oid % 64].handle;
+        }
         /// The place of a row's object; it stays where it is.
         Entry& ObjectOf(int oid);
 
@@ -79,6 +98,8 @@ private:
     TableReader& TableFor(unsigned typeId);
     /// A memento over a row; without a table, one over nothing, whose reads give their defaults.
     Memento* Open(TableReader* table, int oid);
+    /// The same for a row that is part of another.
+    Memento* OpenPart(TableReader& table, int oid);
     /// A reference's class: checked against what the field may hold, and against what is stored.
     unsigned CheckedClass(rfm_Value const& stored, unsigned expected, Origin const& where);
     cow_HandleBase const& Referred(rfm_Value const& typeId, rfm_Value const& oid, unsigned expected,

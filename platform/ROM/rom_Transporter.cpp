@@ -50,6 +50,11 @@ cow_ErasedHandle rom_Transporter::ReadMapElement(unsigned typeId, int oid, cow_S
         m_reader->MapElement(typeId, oid, field, key, elementTypeId));
 }
 
+std::vector<rom_Transporter::Unreferenced> rom_Transporter::ReadUnreferenced() {
+    if (!m_reader) m_reader = std::make_unique<rom_Reader>(*this);
+    return m_reader->Unreferenced();
+}
+
 std::string rom_Transporter::FailedAt() const {
     return m_reader ? m_reader->FailedAt() : std::string();
 }

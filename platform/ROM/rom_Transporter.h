@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "cls_ClassRegistrar.h"
 #include "cow_ErasedHandle.h"
@@ -70,6 +72,17 @@ public:
     /// A null handle if the map has no such key.
     cow_ErasedHandle ReadMapElement(unsigned typeId, int oid, cow_String const& field,
                                     cow_String const& key, unsigned elementTypeId);
+    /// An object that no other refers to.
+    struct Unreferenced {
+        unsigned typeId;
+        int oid;
+        std::optional<cow_ErasedHandle> object;  ///< none where it cannot be read
+        std::string failure;                     ///< why not, with the place
+    };
+    /// Reads what the reads so far did not come to: the objects that nothing refers to, and with
+    /// them what they refer to, by rising class and row. Costs no pass over the rows that were
+    /// read.
+    std::vector<Unreferenced> ReadUnreferenced();
     /// Where the last read failed: "row 3 of table X". Failures that a class itself raises (an
     /// unknown literal) do not know it. Empty if none failed.
     std::string FailedAt() const;

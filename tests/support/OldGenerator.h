@@ -18,7 +18,11 @@ namespace old_test {
 /// those that the library registers.
 class OldGenerator {
 public:
-    OldGenerator(int schema, unsigned seed) : m_schema(schema), m_random(seed) {
+    /// How complete the objects are.
+    enum class Fields { All, Some };
+
+    OldGenerator(int schema, unsigned seed, Fields which = Fields::All)
+        : m_schema(schema), m_random(seed), m_which(which) {
         for (auto const& entry : omi_Singleton<dbc_OldClassRegistrar>::Instance().Entries()) {
             auto own = std::make_unique<cls_ClassRegistrar>();
             entry.holder->GetRef().InitializeMetadata(*own);
@@ -35,11 +39,13 @@ public:
         MakeRepository("profiles", 0x2640014, 0x2640001);
         MakeRepository("filters", 0x3510001, 0x3510002);
         MakeConnectors();
+        MakeLoadCases();
     }
 
     /// The names under each repository.
     std::map<std::string, std::vector<std::string>> names;
-    /// How many connector behaviours there are, which no repository holds.
+    /// How many connector behaviours there are; the first of each class stands in a section, the
+    /// others in none.
     int connectors = 0;
     OldDatabase db;
 
@@ -199,13 +205,37 @@ private:
         return field == "t" ? 2 : 3;
     }
 
-    void Reference(Fields& fields, std::string const& name, unsigned typeId, int oid) {
+    void Reference(old_test::Fields& fields, std::string const& name, unsigned typeId, int oid) {
         fields.emplace_back(name + "#ClassID", static_cast<int>(typeId));
         fields.emplace_back(name + "#OID", oid);
     }
 
-    void Fill(Fields& fields, cls_ClassMetadata const& metadata, cls_Attribute const& attribute) {
+    /// Whether a field may be without a value. Some references are followed by a step, whatever the
+    /// object is.
+    bool MayLack(cls_ClassMetadata const& metadata, cls_Attribute const& attribute) {
+        static std::set<std::string> const followed = {"kmaC_MaterialTable.table",
+                                                       "kmaC_Plastic.table",
+                                                       "kmaC_UserMaterial.thermalTable",
+                                                       "kmaC_UserMaterial.mechanicalTable",
+                                                       "kamC_Periodic.table",
+                                                       "kamC_EquallySpaced.table",
+                                                       "kamC_Tabular.table",
+                                                       "kamC_SmoothStep.table",
+                                                       "kbpC_BoxProfile.tempThick",
+                                                       "kbpC_ArbitraryProfile.x",
+                                                       "kbpC_ArbitraryProfile.y",
+                                                       "kbpC_ArbitraryProfile.t",
+                                                       "kbeC_PotentialContainer.map"};
+        // A program always had a literal.
+        if (attribute.type == cls_AttributeEnum) return false;
         std::string const name = attribute.field.Name().Text();
+        return followed.count(std::string(metadata.Name().Text()) + "." + name) == 0;
+    }
+
+    void Fill(old_test::Fields& fields, cls_ClassMetadata const& metadata,
+              cls_Attribute const& attribute) {
+        std::string const name = attribute.field.Name().Text();
+        if (m_which == Fields::Some && Random(3) == 0 && MayLack(metadata, attribute)) return;
         switch (attribute.type) {
             case cls_AttributeInt:
                 fields.emplace_back(name, Random(3));
@@ -261,7 +291,7 @@ private:
     int Object(unsigned typeId) {
         cls_ClassMetadata const& metadata = *At(typeId);
         Need(metadata);
-        Fields fields;
+        old_test::Fields fields;
         int const base = metadata.ParentTypeId() > 1 && At(metadata.ParentTypeId())
                              ? Object(metadata.ParentTypeId())
                              : -1;
@@ -279,7 +309,7 @@ private:
         for (auto const& [name, typeId, oid] : entries) names[repository].push_back(name);
         int const map = Map(cls_CollectionMapString, entries);
         Need(*Current().Find(wrapper));
-        Fields fields;
+        old_test::Fields fields;
         Reference(fields, "extension", cls_MapTypeId, map);
         fields.emplace_back("##BaseClassOID", -1);
         fields.emplace_back("##Uid", Uid());
@@ -294,11 +324,23 @@ private:
         for (cls_Attribute const& attribute : metadata.Attributes()) {
             std::string const name = attribute.field.Name().Text();
             if (attribute.type != cls_AttributeObject || !At(attribute.arg)) continue;
-            Fields fields;
+            old_test::Fields fields;
             Reference(fields, name, attribute.arg, Object(attribute.arg));
             fields.emplace_back("##BaseClassOID", -1);
             fields.emplace_back("##Uid", Uid());
             made[name] = db.Row(0x2380001, fields);
+        }
+        // One that has them all, and one that shares them with it.
+        old_test::Fields every;
+        for (cls_Attribute const& attribute : metadata.Attributes())
+            if (attribute.type == cls_AttributeObject && At(attribute.arg))
+                Reference(every, attribute.field.Name().Text(), attribute.arg,
+                          Object(attribute.arg));
+        every.emplace_back("##BaseClassOID", -1);
+        for (char const* name : {"all options", "all options again"}) {
+            every.emplace_back("##Uid", Uid());
+            made[name] = db.Row(0x2380001, every);
+            every.pop_back();
         }
         Hang("materials", 0x238007D, InOrder(made, [](auto const&) { return 0x2380001u; }));
     }
@@ -331,17 +373,63 @@ private:
 
     void MakeConnectors() {
         if (m_schema < 453) return;
+        std::vector<std::pair<unsigned, int>> inSection;
         for (unsigned typeId :
              {0x2A80001u, 0x2A80002u, 0x2A80003u, 0x2A80004u, 0x2A80005u, 0x2A80006u, 0x2A8000Eu,
               0x2A8000Fu, 0x2A80017u, 0x2A80018u, 0x2A80019u, 0x2A8001Au, 0x2A8001Bu, 0x2A8001Cu,
               0x2A8001Du, 0x2A8001Eu}) {
             if (!At(typeId)) continue;
-            for (int i = 0; i < 2; ++i, ++connectors) Object(typeId);
+            inSection.emplace_back(typeId, Object(typeId));
+            Object(typeId);
+            connectors += 2;
         }
+        // Sections are the host's, as is what holds load cases.
+        if (!Current().Find(0x3840002)) return;
+        int const first = db.Store().FindTable(rom_Layout::listEntryTypeId)->RowCount();
+        int const list = db.Row(cls_ListTypeId, {{"Target#Kind", int(cls_CollectionList)},
+                                                 {"#First", first},
+                                                 {"#Count", static_cast<int>(inSection.size())},
+                                                 {"##Uid", Uid()}});
+        for (auto const& [typeId, oid] : inSection)
+            db.Row(rom_Layout::listEntryTypeId,
+                   {{"owner", list}, {"value#ClassID", int(typeId)}, {"value#OID", oid}});
+        Need(*Current().Find(0x3840002));
+        old_test::Fields fields;
+        Reference(fields, "options", cls_ListTypeId, list);
+        fields.emplace_back("##BaseClassOID", -1);
+        fields.emplace_back("##Uid", Uid());
+        Hang("sections", 0x3840004, {{"a section", 0x3840002, db.Row(0x3840002, fields)}});
+        if (m_schema < currentSchema) names["sections"].emplace_back("recovered behaviors");
     }
+
+    // Two of three have a name; the third is in no map.
+    void MakeLoadCases() {
+        if (m_schema < 302 || !Current().Find(0x3840001)) return;
+        Need(*Current().Find(0x2DC0001));
+        int rows[3];
+        for (int& row : rows)
+            row = db.Row(0x2DC0001, {{"includeActiveBaseStateBC", Random(2)},
+                                     {"##BaseClassOID", -1},
+                                     {"##Uid", Uid()}});
+        Entries const entries = {{"snow", 0x2DC0001, rows[2]}, {"wind", 0x2DC0001, rows[0]}};
+        Need(*Current().Find(0x3840001));
+        old_test::Fields fields;
+        Reference(fields, "loadCases", cls_MapTypeId, Map(cls_CollectionMapString, entries));
+        fields.emplace_back("##BaseClassOID", -1);
+        fields.emplace_back("##Uid", Uid());
+        db.Row(0x3840001, fields);
+        names["loadCases"] = {"snow", "wind"};
+        // A file of today is not upgraded.
+        if (m_schema < currentSchema)
+            names["loadCases"].insert(names["loadCases"].begin(), "recovered load case 1");
+    }
+
+    /// The schema of today.
+    static constexpr int currentSchema = 1111;
 
     int m_schema;
     std::mt19937 m_random;
+    Fields m_which;
     int m_uids = 0;
     std::vector<std::unique_ptr<cls_ClassRegistrar>> m_owned;
     std::map<unsigned, std::map<int, cls_ClassMetadata const*>> m_old;

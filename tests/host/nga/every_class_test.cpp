@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "host/cli/tool_runner.h"
 #include "DDB_NonGeometricAttributes.h"
+#include "host/cli/tool_runner.h"
 #include "nga_ConnectorSection.h"
 #include "nga_Document.h"
 #include "nga_Error.h"

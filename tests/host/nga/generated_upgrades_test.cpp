@@ -5,7 +5,7 @@
 #include "nga_Collection.h"
 #include "nga_Start.h"
 #include "nga_Store.h"
-#include "nga_UpgradeFile.h"
+#include "nga_Upgrade.h"
 #include "support/OldFile.h"
 #include "support/OldGenerator.h"
 
@@ -59,37 +59,48 @@ void ReadEveryRow(std::string const& path) {
 class GeneratedUpgrades : public testing::TestWithParam<int> {
 protected:
     void SetUp() override { nga::Start(); }
+    Folder folder;
+
+    /// Upgrades a database and looks for all that it made.
+    void ExpectAllUnderItsName(old_test::OldGenerator& generated) {
+        int const schema = GetParam();
+        std::string const path = folder.File("generated.nga");
+        old_test::WriteFile(generated.db.Store(), path, schema);
+        nga::UpgradeOutcome outcome;
+        try {
+            outcome = nga::Upgrade(path);
+        } catch (nga::StoreError const& error) {
+            FAIL() << error.Cause();
+        }
+        for (dbc_DanglingReport const& each : outcome.file.report.references.dangling)
+            ADD_FAILURE() << each.className << "." << each.field << " row " << each.firstRow;
+        for (nga::Finding const& each : outcome.unreadable)
+            ADD_FAILURE() << each.path << ": " << each.message;
+        nga::Document const document = nga::Document::Open(path);
+        for (auto const& [repository, names] : generated.names)
+            EXPECT_EQ(NamesIn(document.Model(), repository.c_str()), names) << repository;
+        EXPECT_TRUE(nga::UpgradeFile(path).current);
+        ReadEveryRow(path);
+        // Each connector behaviour is a row of its class of today.
+        if (schema < 453) return;
+        int connectors = 0;
+        for (char const* name : {"Elasticity", "Damping", "Stop", "Lock", "Failure", "Friction",
+                                 "Plasticity", "Damage"})
+            connectors += std::stoi(store_test::SqlText(
+                path, std::string("SELECT count(*) FROM kbeC_Connector") + name));
+        EXPECT_EQ(connectors, generated.connectors);
+    }
 };
 
 TEST_P(GeneratedUpgrades, LeaveEveryObjectUnderItsName) {
-    int const schema = GetParam();
-    Folder folder;
-    std::string const path = folder.File("generated.nga");
-    old_test::OldGenerator generated(schema, static_cast<unsigned>(schema));
-    old_test::WriteFile(generated.db.Store(), path, schema);
-    nga::UpgradedFile result;
-    try {
-        result = nga::UpgradeFile(path);
-    } catch (nga::StoreError const& error) {
-        FAIL() << error.Cause();
-    }
-    for (dbc_DanglingReport const& each : result.report.references.dangling)
-        ADD_FAILURE() << each.className << "." << each.field << " row " << each.firstRow;
-    for (nga::UnreadableObject const& object : nga::FindUnreadable(path))
-        ADD_FAILURE() << object.collection << " " << object.name << ": " << object.cause;
-    std::unique_ptr<ddr_Model> const model = nga::LoadModel(path);
-    for (auto const& [repository, names] : generated.names)
-        EXPECT_EQ(NamesIn(*model, repository.c_str()), names) << repository;
-    EXPECT_TRUE(nga::UpgradeFile(path).current);
-    ReadEveryRow(path);
-    // Each connector behaviour is a row of its class of today.
-    if (schema < 453) return;
-    int connectors = 0;
-    for (char const* name :
-         {"Elasticity", "Damping", "Stop", "Lock", "Failure", "Friction", "Plasticity", "Damage"})
-        connectors += std::stoi(
-            store_test::SqlText(path, std::string("SELECT count(*) FROM kbeC_Connector") + name));
-    EXPECT_EQ(connectors, generated.connectors);
+    old_test::OldGenerator generated(GetParam(), static_cast<unsigned>(GetParam()));
+    ExpectAllUnderItsName(generated);
+}
+
+TEST_P(GeneratedUpgrades, DoSoWhereValuesAreMissing) {
+    old_test::OldGenerator generated(GetParam(), static_cast<unsigned>(GetParam()) * 7,
+                                     old_test::OldGenerator::Fields::Some);
+    ExpectAllUnderItsName(generated);
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEachSchema, GeneratedUpgrades, testing::ValuesIn(Schemas()));

@@ -352,3 +352,91 @@ TEST(HostExtension, EachDocumentsOwnIsARecordOfItsOwn) {
     EXPECT_NE(ofA.Uid(), ofB.Uid());
     EXPECT_TRUE(ofA.IsEmpty());
 }
+
+namespace {
+
+/// Two materials that share their elasticity, of which the second has lost its name.
+std::string MakeFileWithUnnamed(TemporaryFolder const& folder) {
+    std::string const file = folder.Path("unnamed.nga");
+    Document document = Document::New("unnamed");
+    auto* steel = new kmaC_Material;
+    steel->elastic = new kmaC_Elastic;
+    steel->elastic.Get().table = kmaC_MaterialTable(1, 1);
+    steel->elastic.Get().table.MutableCell(0, 0) = 210e3;
+    auto* other = new kmaC_Material(*steel);
+    document.Materials().Insert("a", steel);
+    document.Materials().Insert("b", other);
+    document.SaveAs(file);
+    EXPECT_EQ(RowsOf(file, "kmaC_Elastic"), 1);
+    ChangeBySql(file,
+                "UPDATE cls_MapEntry SET owner=-1 WHERE key='b';"
+                "UPDATE cls_Map SET \"#Count\"=1");
+    return file;
+}
+
+}  // namespace
+
+TEST(Document, WhatNoNameLeadsToGoesAlongWithEverySave) {
+    TemporaryFolder const folder;
+    std::string const file = MakeFileWithUnnamed(folder);
+    for (int round = 1; round <= 3; ++round) {
+        Document document = Document::Open(file);
+        EXPECT_EQ(document.Materials().Size(), 1);
+        ASSERT_EQ(document.Unnamed().objects.size(), 1u);
+        nga::Leftovers::Object const& unnamed = document.Unnamed().objects.front();
+        EXPECT_EQ(unnamed.typeId, kmaC_Material::TypeId());
+        auto const* other = static_cast<kmaC_Material const*>(unnamed.object.ErasedReferent());
+        // What the named one shared with it stays as it was.
+        EXPECT_EQ(other->elastic.ConstGet().table.Cell(0, 0), 210e3);
+        EXPECT_EQ(document.Materials().ConstGet("a").elastic.ConstGet().table.Cell(0, 0),
+                  round == 1 ? 210e3 : 70e3);
+        document.Materials().Get("a").elastic.Get().table.MutableCell(0, 0) = 70e3;
+        document.Save();
+        EXPECT_EQ(RowsOf(file, "kmaC_Material"), 2);
+        EXPECT_EQ(RowsOf(file, "kmaC_Elastic"), 2);
+        EXPECT_EQ(RowsOf(file, "cls_List"), 2);
+    }
+    ToolRun const tree = RunNga({"tree", file});
+    EXPECT_EQ(tree.err, "no name leads to 1 object more, which the file keeps\n");
+    // A copy of the file's content has it as well, a text does not.
+    Document document = Document::Open(file);
+    document.SaveAs(folder.Path("copy.nga"));
+    EXPECT_EQ(Document::Open(folder.Path("copy.nga")).Unnamed().objects.size(), 1u);
+    EXPECT_EQ(nga::ExportJson(document).find("\"b\""), std::string::npos);
+}
+
+TEST(Document, APartOfWhatNoNameLeadsToIsNotListedByItself) {
+    TemporaryFolder const folder;
+    std::string const file = MakeFileWithUnnamed(folder);
+    // Without the named one, the elasticity is the unnamed one's alone.
+    ChangeBySql(file,
+                "UPDATE cls_MapEntry SET owner=-1;UPDATE cls_Map SET \"#Count\"=0;"
+                "DELETE FROM kmaC_Material WHERE \"##OID\"=1");
+    Document const document = Document::Open(file);
+    ASSERT_EQ(document.Unnamed().objects.size(), 1u);
+    EXPECT_EQ(document.Unnamed().objects.front().typeId, kmaC_Material::TypeId());
+}
+
+TEST(Document, WhatNoNameLeadsToAndCannotBeReadKeepsTheFileFromBeingSaved) {
+    TemporaryFolder const folder;
+    std::string const file = MakeFileWithUnnamed(folder);
+    ChangeBySql(file, "UPDATE kmaC_Material SET \"elastic#OID\"=7 WHERE \"##OID\"=1");
+    Document document = Document::Open(file);
+    EXPECT_EQ(document.Unnamed().objects.size(), 0u);
+    ASSERT_EQ(document.Unnamed().unreadable.size(), 1u);
+    EXPECT_EQ(document.Unnamed().unreadable.front(),
+              "row 1 of table kmaC_Material: Row 7 of table kmaC_Elastic is referred to and does "
+              "not exist.");
+    try {
+        document.Save();
+        FAIL();
+    } catch (nga::Error const& failure) {
+        EXPECT_EQ(failure.Place(), document.Unnamed().unreadable.front());
+        EXPECT_EQ(
+            failure.Message(),
+            "the file has an object that no name leads to and that cannot be read, and saving "
+            "would lose it");
+    }
+    EXPECT_EQ(RowsOf(file, "kmaC_Material"), 2);
+    EXPECT_NE(RunNga({"tree", file}).err.find("1 object more"), std::string::npos);
+}

@@ -2,12 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
+#include <map>
 
 #include "host/cli/tool_runner.h"
 #include "host/store/store_support.h"
+#include "nga_Collection.h"
+#include "nga_ConnectorSection.h"
+#include "nga_HostExtension.h"
 #include "nga_Start.h"
 #include "nga_Store.h"
+#include "nga_StoredFile.h"
+#include "support/OldFile.h"
 
 using store_test::Contents;
 using store_test::Folder;
@@ -70,11 +77,213 @@ TEST_F(ExampleUpgrades, ConnectorsOf453GetTheLiteralsThatTheyLack) {
     EXPECT_EQ(SqlText(path, "SELECT coupling FROM kbeC_ConnectorDamage"), "UNCOUPLED");
     EXPECT_EQ(SqlText(path, "SELECT releaseComponent FROM kbeC_ConnectorFailure"), "3");
     EXPECT_EQ(SqlText(path, "SELECT lockingComponent FROM kbeC_ConnectorLock"), "2147483647");
-    // No section holds them yet, so nothing refers to them.
-    bool told = false;
+}
+
+TEST_F(ExampleUpgrades, BehavioursInNoSectionBecomeOneOfTheirOwn) {
+    std::string const path = Made(453);
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    std::map<std::string, long long> adopted;
+    long long rows = 0;
+    for (nga::Adopted const& each : outcome.adopted) {
+        EXPECT_EQ(each.collection, "sections");
+        EXPECT_EQ(each.name, "recovered behaviors");
+        adopted[each.className] = each.rows;
+        rows += each.rows;
+    }
+    EXPECT_EQ(adopted["kbeC_ConnectorDamage"], 1);
+    EXPECT_EQ(adopted["kbeC_ConnectorStop"], 1);
+    nga::Document const document = nga::Document::Open(path);
+    EXPECT_TRUE(document.Unnamed().objects.empty());
+    auto const* section = static_cast<nga_ConnectorSection const*>(
+        nga::Collection::FindByName("sections")->Find(document.Model(), "recovered behaviors"));
+    ASSERT_TRUE(section);
+    ASSERT_EQ(section->options.Size(), rows);
+    std::map<std::string, long long> held;
+    for (int i = 0; i < section->options.Size(); ++i)
+        ++held[mdl_Description::Find(section->options.ConstGet(i).ConstGet().DynTypeId())->Name()];
+    EXPECT_EQ(held, adopted);
+    EXPECT_EQ(section->stateVariables, 0);
+    EXPECT_EQ(section->availableComponents.Size(), 0);
+    EXPECT_EQ(RunNga({"show", path, "documents['old_453'].sections['recovered behaviors']"}).code,
+              0);
     for (auto const& each : outcome.file.report.references.unreferenced)
-        told = told || each.className == "kbeC_ConnectorDamage";
-    EXPECT_TRUE(told);
+        EXPECT_EQ(each.className.find("kbeC_Connector"), std::string::npos) << each.className;
+}
+
+TEST_F(ExampleUpgrades, WhatGetsANameGetsTheSameEachTime) {
+    std::string const path = Made(453);
+    nga::UpgradeFileOptions options;
+    for (char const* name : {"one.nga", "two.nga"}) {
+        options.output = folder.File(name);
+        nga::Upgrade(path, options);
+    }
+    EXPECT_EQ(Contents(folder.File("one.nga")), Contents(folder.File("two.nga")));
+    EXPECT_EQ(SqlText(options.output, "SELECT count(*) FROM nga_ConnectorSection"), "1");
+    // No two rows of a table have the same identity.
+    for (char const* table : {"nga_ConnectorSection", "nga_CSWrapper", "cls_List", "cls_Map"})
+        EXPECT_EQ(SqlText(options.output, std::string("SELECT count(*)-count(DISTINCT \"##Uid\") "
+                                                      "FROM ") +
+                                              table),
+                  "0")
+            << table;
+}
+
+/// A file of schema 302 with load cases, as a program leaves them that keeps its own list of them.
+/// The second has a name, which is one of those that the others would get.
+std::string MakeLoadCases(Folder& folder) {
+    old_test::OldDatabase db;
+    auto uid = [number = 0]() mutable {
+        std::string bytes(16, '\0');
+        bytes[0] = static_cast<char>(++number);
+        return bytes;
+    };
+    db.Table(rom_Layout::OfMap());
+    db.Table(rom_Layout::OfMapEntry());
+    db.Table(rom_Layout::OfType(klcC_LoadCase::TypeId(), nga::StoredClasses()));
+    db.Table(rom_Layout::OfType(nga::HostExtension::TypeId(), nga::StoredClasses()));
+    for (int i = 0; i < 3; ++i)
+        db.Row(klcC_LoadCase::TypeId(), {{"includeActiveBaseStateBC", i == 1 ? 1 : 0},
+                                         {"##BaseClassOID", -1},
+                                         {"##Uid", uid()}});
+    db.Row(rom_Layout::mapEntryTypeId, {{"owner", 0},
+                                        {"key", "recovered load case 2"},
+                                        {"value#ClassID", int(klcC_LoadCase::TypeId())},
+                                        {"value#OID", 1}});
+    db.Row(cls_MapTypeId, {{"Target#Kind", int(cls_CollectionMapString)},
+                           {"#First", 0},
+                           {"#Count", 1},
+                           {"##Uid", uid()}});
+    db.Row(nga::HostExtension::TypeId(), {{"loadCases#ClassID", int(cls_MapTypeId)},
+                                          {"loadCases#OID", 0},
+                                          {"##BaseClassOID", -1},
+                                          {"##Uid", uid()}});
+    std::string const path = folder.File("cases.nga");
+    old_test::WriteFile(db.Store(), path, 302);
+    return path;
+}
+
+TEST_F(ExampleUpgrades, LoadCasesWithoutANameGetOneBesideThoseThatHaveIt) {
+    std::string const path = MakeLoadCases(folder);
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    EXPECT_TRUE(outcome.unreadable.empty());
+    ASSERT_EQ(outcome.adopted.size(), 1u);
+    EXPECT_EQ(outcome.adopted[0].className, "klcC_LoadCase");
+    EXPECT_EQ(outcome.adopted[0].rows, 2);
+    EXPECT_EQ(outcome.adopted[0].collection, "loadCases");
+    EXPECT_EQ(outcome.adopted[0].name, "recovered load case 1");
+    EXPECT_NE(nga::UpgradeText(outcome).find("no name led to these; they have one now:\n"
+                                             "  klcC_LoadCase (2 rows): "
+                                             "loadCases['recovered load case 1']\n"),
+              std::string::npos)
+        << nga::UpgradeText(outcome);
+    EXPECT_NE(nga::UpgradeJson(outcome).find("\"name\": \"recovered load case 1\""),
+              std::string::npos);
+    nga::Document const document = nga::Document::Open(path);
+    std::string names;
+    nga::Collection::FindByName("loadCases")
+        ->Each(document.Model(), [&](cow_String const& key, void const* object) {
+            names += std::string(key.View()) + "=" +
+                     (static_cast<klcC_LoadCase const*>(object)->includeActiveBaseStateBC ? "yes"
+                                                                                          : "no") +
+                     ";";
+        });
+    EXPECT_EQ(names,
+              "recovered load case 1=no;recovered load case 2=yes;recovered load case 3=no;");
+    // The entries stand together, and the row of the former one is nobody's.
+    EXPECT_EQ(SqlText(path, "SELECT \"#First\"||' '||\"#Count\" FROM cls_Map"), "1 3");
+    EXPECT_EQ(SqlText(path, "SELECT owner FROM cls_MapEntry"), "-1 0 0 0");
+}
+
+TEST_F(ExampleUpgrades, ADamagedListOfNamesEndsTheUpgrade) {
+    std::string const path = MakeLoadCases(folder);
+    Sql(path, "UPDATE cls_Map SET \"#Count\"=1000000");
+    std::string const before = Contents(path);
+    try {
+        nga::Upgrade(path);
+        FAIL();
+    } catch (nga::StoreError const& error) {
+        EXPECT_EQ(error.Cause(), "Row 0 of table cls_Map has a count that is out of range.");
+    }
+    EXPECT_EQ(Contents(path), before);
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST_F(ExampleUpgrades, TheRestIsReportedAndKept) {
+    std::string const path = Made(203);
+    Sql(path,
+        "UPDATE cls_MapEntry SET owner=-1 WHERE key='steel S355';"
+        "UPDATE cls_Map SET \"#Count\"=\"#Count\"-1 WHERE \"##OID\"=0");
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    EXPECT_TRUE(outcome.unreadable.empty()) << nga::UpgradeText(outcome);
+    EXPECT_TRUE(outcome.adopted.empty());
+    EXPECT_NE(nga::UpgradeText(outcome).find(
+                  "nothing refers to these; the file keeps them:\n  kmaC_Material (1 row"),
+              std::string::npos)
+        << nga::UpgradeText(outcome);
+    nga::Document document = nga::Document::Open(path);
+    EXPECT_FALSE(document.Materials().IsMember("steel S355"));
+    document.Save();
+    nga::Document const again = nga::Document::Open(path);
+    bool kept = false;
+    for (nga::Leftovers::Object const& each : again.Unnamed().objects) {
+        if (each.typeId != kmaC_Material::TypeId()) continue;
+        auto const* steel = static_cast<kmaC_Material const*>(each.object.ErasedReferent());
+        EXPECT_EQ(steel->plastic.ConstGet().table.Cell(0, 2), 120.0);
+        kept = true;
+    }
+    EXPECT_TRUE(kept);
+}
+
+TEST_F(ExampleUpgrades, LeftoversThatCannotBeReadAreNamed) {
+    std::string const path = Made(203);
+    Sql(path,
+        "UPDATE cls_MapEntry SET owner=-1 WHERE key='steel S355';"
+        "UPDATE cls_MapEntry SET key='steel S355',\"value#OID\"=0 WHERE \"##OID\"=1;"
+        "UPDATE cls_Map SET \"#Count\"=\"#Count\"-1 WHERE \"##OID\"=0;"
+        "UPDATE kmaC_Hyperelastic SET type='GUMMY'");
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    ASSERT_EQ(outcome.unreadable.size(), 1u);
+    EXPECT_EQ(outcome.unreadable[0].path, "documents['old_203']");
+    EXPECT_NE(outcome.unreadable[0].message.find("GUMMY"), std::string::npos);
+}
+
+TEST_F(ExampleUpgrades, NamesThatLeadToTheWrongAreNamed) {
+    std::string const path = Made(203);
+    Sql(path,
+        "UPDATE cls_MapEntry SET \"value#ClassID\"=NULL,\"value#OID\"=NULL WHERE key='London "
+        "clay';"
+        "UPDATE cls_MapEntry SET \"value#ClassID\"=0x2640007,\"value#OID\"=0 WHERE "
+        "key='rubber 60 Shore'");
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    std::map<std::string, std::string> causes;
+    for (nga::Finding const& each : outcome.unreadable) causes[each.path] = each.message;
+    EXPECT_EQ(causes["documents['old_203'].materials['London clay']"], "a name without an object");
+    EXPECT_EQ(causes["documents['old_203'].materials['rubber 60 Shore']"],
+              "an object of a class that it cannot hold");
+}
+
+TEST_F(ExampleUpgrades, WhatKeepsTheWholeFileFromBeingReadIsNamed) {
+    std::string const path = Made(203);
+    Sql(path, "UPDATE cls_MapEntry SET owner=1 WHERE key='London clay'");
+    nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    ASSERT_FALSE(outcome.unreadable.empty());
+    EXPECT_EQ(outcome.unreadable.back().path, "documents['old_203']");
+    EXPECT_NE(outcome.unreadable.back().message.find("is no entry of row 0 of table cls_Map"),
+              std::string::npos)
+        << outcome.unreadable.back().message;
+    EXPECT_NE(RunNga({"tree", path}).code, 0);
+}
+
+TEST_F(ExampleUpgrades, ProgressGoesFromNothingToAll) {
+    std::string const path = Made(203);
+    nga::UpgradeFileOptions options;
+    std::vector<double> seen;
+    options.progress = [&](double done) { seen.push_back(done); };
+    nga::Upgrade(path, options);
+    ASSERT_GE(seen.size(), 2u);
+    EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
+    EXPECT_GE(seen.front(), 0.0);
+    EXPECT_EQ(seen.back(), 1.0);
 }
 
 TEST_F(ExampleUpgrades, AZeroThatStandsForNoValueIsToldWhereTheDefaultIsAnother) {

@@ -1,6 +1,8 @@
 #include "nga_UpgradeFile.h"
 
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
 
@@ -196,7 +198,9 @@ TEST_F(UpgradedStore, ASignalTakesTheScratchCopyOfADryRunWithIt) {
             setenv("TMPDIR", scratch.c_str(), 1);
             nga::UpgradeFileOptions options;
             options.dryRun = true;
-            options.inspect = [&](std::string const&) { raise(files() == 1 ? signal : SIGABRT); };
+            options.inspect = [&](std::string const&, dbc_References const&) {
+                raise(files() == 1 ? signal : SIGABRT);
+            };
             try {
                 nga::UpgradeFile(path, options);
             } catch (...) {
@@ -215,7 +219,7 @@ TEST_F(UpgradedStore, ASignalTakesTheScratchCopyOfADryRunWithIt) {
     setenv("TMPDIR", scratch.c_str(), 1);
     nga::UpgradeFileOptions options;
     options.dryRun = true;
-    options.inspect = [&](std::string const&) { EXPECT_EQ(files(), 1); };
+    options.inspect = [&](std::string const&, dbc_References const&) { EXPECT_EQ(files(), 1); };
     nga::UpgradeFile(path, options);
     if (former)
         setenv("TMPDIR", kept.c_str(), 1);
@@ -324,6 +328,31 @@ TEST_F(UpgradedStore, KeepsLinksAndModes) {
     EXPECT_EQ(SqlText(result.backup, "PRAGMA user_version"), "203");
     EXPECT_EQ(SqlText(path, "PRAGMA user_version"), "1111");
     EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+}
+
+TEST_F(UpgradedStore, TheOldFileIsCopiedWhereItCannotHaveASecondName) {
+    // A link from another file system: the old file stays beside the link.
+    std::string const elsewhere = "/dev/shm/nga-upgrade-test-" + std::to_string(getpid()) + ".nga";
+    std::string const path = OldFile(3);
+    struct stat here, there;
+    if (stat("/dev/shm", &there) != 0 || stat(path.c_str(), &here) != 0 ||
+        here.st_dev == there.st_dev)
+        GTEST_SKIP() << "there is no second file system";
+    std::filesystem::copy_file(path, elsewhere);
+    std::filesystem::permissions(elsewhere, std::filesystem::perms(0640));
+    std::string const link = folder.File("link.nga");
+    std::filesystem::create_symlink(elsewhere, link);
+    std::string const backup = link + ".schema-203.bak";
+    Overwrite(backup, "somebody's");
+    nga::UpgradedFile const result = nga::UpgradeFile(link);
+    EXPECT_EQ(result.backup, backup + ".2");
+    EXPECT_EQ(Contents(backup), "somebody's");
+    EXPECT_EQ(Contents(result.backup), Contents(path));
+    EXPECT_EQ(std::filesystem::status(result.backup).permissions(), std::filesystem::perms(0640));
+    EXPECT_EQ(SqlText(elsewhere, "PRAGMA user_version"), "1111");
+    // No part of a copy is left.
+    EXPECT_EQ(folder.Entries(), 4);
+    std::filesystem::remove(elsewhere);
 }
 
 TEST_F(UpgradedStore, AKillLeavesTheWholeOldOrTheWholeNewFile) {

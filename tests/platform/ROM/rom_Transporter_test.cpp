@@ -258,4 +258,45 @@ TEST_F(Transporter, WritesAndReadsUpToOneDepthAndRefusesBeyondItBothWays) {
               "Row 0 of table kmaC_MullinsEffect is nested deeper than 64 levels.");
 }
 
+TEST_F(Transporter, FindsWhatNothingRefersTo) {
+    kmaC_Material const steel = Steel();
+    kmaC_Material const other = Steel();
+    int named = -1;
+    {
+        rom_Transporter transporter(m_database, *m_registrar);
+        named = transporter.Write(&steel, kmaC_Material::TypeId());
+        transporter.Write(&other, kmaC_Material::TypeId());
+        transporter.Write(&steel.elastic.ConstGet(), kmaC_Elastic::TypeId());
+    }
+    rom_Transporter transporter(m_database, *m_registrar);
+    transporter.Read(kmaC_Material::TypeId(), named);
+    std::vector<rom_Transporter::Unreferenced> const found = transporter.ReadUnreferenced();
+    // What was read is none of it, nor are the parts of the one that is.
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found[0].typeId, kmaC_Material::TypeId());
+    EXPECT_EQ(found[0].oid, 1 - named);
+    ASSERT_TRUE(found[0].object);
+    EXPECT_TRUE(kmaC_Material::Description().Same(found[0].object->ErasedReferent(), &other));
+    // They were read now.
+    EXPECT_TRUE(transporter.ReadUnreferenced().empty());
+}
+
+TEST_F(Transporter, ToldWhatNothingRefersToAndCannotBeRead) {
+    kmaC_Material const steel = Steel();
+    rom_Transporter(m_database, *m_registrar).Write(&steel, kmaC_Material::TypeId());
+    Poke(kmaC_Elastic::TypeId(), 0, "type", rfm_Value::OfText("SOFT", 4));
+    rom_Transporter transporter(m_database, *m_registrar);
+    std::vector<rom_Transporter::Unreferenced> const found = transporter.ReadUnreferenced();
+    bool told = false;
+    for (rom_Transporter::Unreferenced const& each : found) {
+        if (each.typeId != kmaC_Material::TypeId()) continue;
+        told = true;
+        EXPECT_FALSE(each.object);
+        EXPECT_EQ(each.failure.rfind("row 0 of table kmaC_Material: row 0 of table kmaC_Elastic: ", 0),
+                  0u)
+            << each.failure;
+    }
+    EXPECT_TRUE(told);
+}
+
 }  // namespace
