@@ -10,6 +10,7 @@
 #include "DDB_NonGeometricAttributes.h"
 #include "module/OldClassFacts.h"
 #include "support/OldDatabase.h"
+#include "support/OldDomains.h"
 
 namespace old_test {
 
@@ -89,27 +90,45 @@ private:
         return bytes;
     }
 
+    static Domain const* DomainOf(std::string const& className, std::string const& field) {
+        for (std::string const& owner : {className, className.substr(0, className.find('_'))}) {
+            auto const known = Domains().find(owner + "." + field);
+            if (known != Domains().end()) return &known->second;
+        }
+        return nullptr;
+    }
+    int IntIn(Domain const* domain, int below) {
+        if (!domain) return Random(below);
+        int const low = static_cast<int>(domain->low);
+        return low + Random(static_cast<int>(domain->high) - low + 1);
+    }
+    double RealIn(Domain const* domain) {
+        return domain ? domain->low + (domain->high - domain->low) * Random(1001) / 1000 : Real();
+    }
+
     int Array(int columns, int rows) {
         std::vector<double> values;
         for (int i = 0; i < columns * rows; ++i) values.push_back(Real());
+        return Array(columns, values);
+    }
+    int Array(int columns, std::vector<double> const& values) {
         return db.Row(cls_ListTypeId, {{"Target#Handle", OldDatabase::Bytes(values)},
                                        {"Target#Columns", columns},
                                        {"Target#Kind", int(cls_CollectionArray2DDouble)},
                                        {"##Uid", Uid()}});
     }
-    int List(int count) {
-        int const oid = Array(1, count);
+    int List(int oid) {
         db.Retype(oid, cls_CollectionListDouble);
         return oid;
     }
-    int IntList() {
-        int const values[] = {1, 1 + Random(5)};
-        return db.Row(
-            cls_ListTypeId,
-            {{"Target#Handle", std::string(reinterpret_cast<char const*>(values), sizeof values)},
-             {"Target#Columns", 1},
-             {"Target#Kind", int(cls_CollectionListInt)},
-             {"##Uid", Uid()}});
+    int IntList(bool empty) {
+        int const values[] = {1, 2 + Random(5)};
+        return db.Row(cls_ListTypeId,
+                      {{"Target#Handle", std::string(reinterpret_cast<char const*>(values),
+                                                     empty ? 0 : sizeof values)},
+                       {"Target#Columns", 1},
+                       {"Target#Kind", int(cls_CollectionListInt)},
+                       {"##Uid", Uid()}});
     }
     int ObjectList(unsigned elementTypeId) {
         std::vector<int> elements;
@@ -236,21 +255,23 @@ private:
               cls_Attribute const& attribute) {
         std::string const name = attribute.field.Name().Text();
         if (m_which == Fields::Some && Random(3) == 0 && MayLack(metadata, attribute)) return;
+        Domain const* const domain = DomainOf(metadata.Name().Text(), name);
         switch (attribute.type) {
             case cls_AttributeInt:
-                fields.emplace_back(name, Random(3));
+                fields.emplace_back(name, IntIn(domain, 3));
                 return;
             case cls_AttributeBool:
-                fields.emplace_back(name, Random(2));
+                fields.emplace_back(name, IntIn(domain, 2));
                 return;
             case cls_AttributeDouble:
-                fields.emplace_back(name, Real());
+                fields.emplace_back(name, RealIn(domain));
                 return;
             case cls_AttributeString:
                 fields.emplace_back(name, "a text");
                 return;
             case cls_AttributeEnum:
-                fields.emplace_back(name, Literal(metadata, name).Text());
+                fields.emplace_back(
+                    name, domain ? domain->literal.c_str() : Literal(metadata, name).Text());
                 return;
             case cls_AttributeObject:
                 break;
@@ -258,16 +279,20 @@ private:
         switch (attribute.collection) {
             case cls_CollectionNone:
                 if (At(attribute.arg))
-                    Reference(fields, name, attribute.arg, Object(attribute.arg));
+                    Reference(fields, name, attribute.arg, Object(attribute.arg, domain));
                 return;
             case cls_CollectionArray2DDouble:
-                Reference(fields, name, cls_ListTypeId, Array(4, 2));
+                Reference(fields, name, cls_ListTypeId,
+                          m_table  ? Array(m_table->columns, m_table->cells)
+                          : domain ? Array(domain->columns, domain->cells)
+                                   : Array(4, 2));
                 return;
             case cls_CollectionListDouble:
-                Reference(fields, name, cls_ListTypeId, List(ListLength(name)));
+                Reference(fields, name, cls_ListTypeId,
+                          List(domain ? Array(1, domain->cells) : Array(1, ListLength(name))));
                 return;
             case cls_CollectionListInt:
-                Reference(fields, name, cls_ListTypeId, IntList());
+                Reference(fields, name, cls_ListTypeId, IntList(domain != nullptr));
                 return;
             case cls_CollectionMapInt: {
                 std::vector<std::tuple<int, unsigned, int>> entries;
@@ -288,7 +313,15 @@ private:
         }
     }
 
-    int Object(unsigned typeId) {
+    /// \p table: what the table holds that the object is.
+    int Object(unsigned typeId, Domain const* table = nullptr) {
+        Domain const* const outer = m_table;
+        m_table = table;
+        int const oid = ObjectIn(typeId);
+        m_table = outer;
+        return oid;
+    }
+    int ObjectIn(unsigned typeId) {
         cls_ClassMetadata const& metadata = *At(typeId);
         Need(metadata);
         old_test::Fields fields;
@@ -362,6 +395,7 @@ private:
     void MakeRepository(std::string const& repository, unsigned wrapper, unsigned base) {
         std::map<std::string, int> made;
         std::map<std::string, unsigned> classes;
+        if (!At(base)) return;
         for (cls_ClassMetadata const* current : Current().Classes()) {
             if (current->ParentTypeId() != base || !At(current->TypeId())) continue;
             made[current->Name().Text()] = Object(current->TypeId());
@@ -430,6 +464,7 @@ private:
     int m_schema;
     std::mt19937 m_random;
     Fields m_which;
+    Domain const* m_table = nullptr;
     int m_uids = 0;
     std::vector<std::unique_ptr<cls_ClassRegistrar>> m_owned;
     std::map<unsigned, std::map<int, cls_ClassMetadata const*>> m_old;
