@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -21,6 +22,7 @@
 #include "dbc_Upgrade.h"
 #include "nga_SqliteDatabase.h"
 #include "nga_Start.h"
+#include "nga_Upgrade.h"
 #include "ratio.h"
 
 namespace {
@@ -362,6 +364,56 @@ std::string MakeUntouched(int count) {
     return path;
 }
 
+// Named materials, each with a density: what the tool looks at one by one after the steps.
+std::string MakeNamed(int count) {
+    std::string const path = (Folder() / "named.nga").string();
+    {
+        auto const file = Empty(path);
+        std::uint64_t uid[2] = {0, 7};
+        auto const identity = [&] {
+            ++uid[0];
+            return rfm_Value::OfBytes(uid, sizeof uid);
+        };
+        Rows(*file, rom_Layout::OfClass(*Registrar().Find(kmaC_MaterialOption::TypeId())), count,
+             [&](int, std::vector<rfm_Value>& row) {
+                 row = {rfm_Value::OfInt(-1), identity()};
+             });
+        rfm_TableMetadata const density =
+            rom_Layout::OfClass(*Registrar().Find(kmaC_Density::TypeId()));
+        Rows(*file, density, count, [&](int i, std::vector<rfm_Value>& row) {
+            row[static_cast<std::size_t>(density.Find("##BaseClassOID"))] = rfm_Value::OfInt(i);
+            row[static_cast<std::size_t>(density.Find("##Uid"))] = identity();
+        });
+        rfm_TableMetadata const material = OldLayout(kmaC_Material::TypeId(), 869);
+        Rows(*file, material, count, [&](int i, std::vector<rfm_Value>& row) {
+            row[static_cast<std::size_t>(material.Find("density#ClassID"))] =
+                rfm_Value::OfInt(kmaC_Density::TypeId());
+            row[static_cast<std::size_t>(material.Find("density#OID"))] = rfm_Value::OfInt(i);
+            row[static_cast<std::size_t>(material.Find("##BaseClassOID"))] = rfm_Value::OfInt(-1);
+            row[static_cast<std::size_t>(material.Find("##Uid"))] = identity();
+        });
+        Rows(*file, rom_Layout::OfMap(), 1, [&](int, std::vector<rfm_Value>& row) {
+            row = {rfm_Value::OfInt(cls_CollectionMapString), rfm_Value::OfInt(0),
+                   rfm_Value::OfInt(count), identity()};
+        });
+        std::string name;
+        Rows(*file, rom_Layout::OfMapEntry(), count, [&](int i, std::vector<rfm_Value>& row) {
+            name = "m" + std::to_string(i);
+            row = {rfm_Value::OfInt(0), Text(name.c_str()),
+                   rfm_Value::OfInt(kmaC_Material::TypeId()), rfm_Value::OfInt(i), rfm_Value()};
+        });
+        Rows(*file, rom_Layout::OfClass(*Registrar().Find(kmaC_MCWrapper::TypeId())), 1,
+             [&](int, std::vector<rfm_Value>& row) {
+                 row = {rfm_Value::OfInt(cls_MapTypeId), rfm_Value::OfInt(0), rfm_Value::OfInt(-1),
+                        identity()};
+             });
+        file->Finish();
+    }
+    Database const file(path, SQLITE_OPEN_READWRITE);
+    file.Run("PRAGMA user_version=869;UPDATE nga_Catalogue SET Version=869 WHERE TypeId=0");
+    return path;
+}
+
 double CopySeconds(std::string const& from) {
     std::string const to = (Folder() / "copy.nga").string();
     fs::remove(to);
@@ -394,6 +446,18 @@ int main() {
         PeakKilobytes([&] { MakeThickness(rows); });
         long const peak = PeakKilobytes([&] { Upgrade(path, (Folder() / "ours.nga").string()); });
         std::printf("peak of memory of a step over %7d rows: %ld kB\n", rows, peak);
+    }
+    for (int rows : {10'000, 100'000, 1'000'000}) {
+        std::string const path = (Folder() / "named.nga").string();
+        PeakKilobytes([&] { MakeNamed(rows); });
+        long const peak = PeakKilobytes([&] {
+            nga::UpgradeFileOptions options;
+            options.output = (Folder() / "upgraded.nga").string();
+            nga::UpgradeOutcome const outcome = nga::Upgrade(path, options);
+            if (!outcome.unreadable.empty() || outcome.findings.size() != 0) Stop("findings");
+        });
+        fs::remove(Folder() / "upgraded.nga");
+        std::printf("peak of memory of the tool over %7d materials: %ld kB\n", rows, peak);
     }
     ratio::Table table(7);
     std::string const thickness = MakeThickness(100'000);

@@ -139,7 +139,7 @@ void SqliteDatabase::StartContinue(std::string const& path, long long fileSize) 
     m_connection.Harden(std::max(fileSize * 2, lengthAtLeast), true);
     m_connection.Execute(
         "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;"
-        "PRAGMA cache_size=-4096; PRAGMA temp_store=MEMORY; BEGIN");
+        "PRAGMA cache_size=-4096; PRAGMA temp_store=FILE; BEGIN");
     ReadCatalogue();
     DropAllButTables();
 }
