@@ -136,9 +136,11 @@ void SqliteDatabase::StartContinue(std::string const& path, long long fileSize) 
     m_continued = true;
     m_fileSize = fileSize;
     m_connection.OpenForWriting(path);
+    // A hardened connection would keep its journal.
+    m_connection.Execute("PRAGMA journal_mode=OFF");
     m_connection.Harden(std::max(fileSize * 2, lengthAtLeast), true);
     m_connection.Execute(
-        "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;"
+        "PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;"
         "PRAGMA cache_size=-4096; PRAGMA temp_store=FILE; BEGIN");
     ReadCatalogue();
     DropAllButTables();

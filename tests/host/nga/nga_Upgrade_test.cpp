@@ -1,10 +1,15 @@
 #include "nga_Upgrade.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <climits>
+#include <csignal>
 #include <map>
+#include <random>
 
 #include "host/cli/tool_runner.h"
 #include "host/store/store_support.h"
@@ -424,6 +429,45 @@ TEST_F(ExampleUpgrades, WhatCannotBeReadAfterwardsIsNamed) {
               std::string::npos)
         << outcome.out;
     EXPECT_NE(outcome.out.find("GUMMY"), std::string::npos);
+}
+
+TEST_F(ExampleUpgrades, AKilledToolLeavesTheWholeOldOrTheWholeNewFile) {
+    std::string const path = Made(203);
+    std::string const old = Contents(path);
+    std::string const whole = folder.File("whole.nga");
+    ASSERT_EQ(RunNga({"upgrade", path, "-o", whole}).code, 0);
+    std::string const fresh = Contents(whole);
+    std::mt19937 random(11);
+    int killed = 0;
+    for (int round = 0; round < 40; ++round) {
+        pid_t const child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            int const nowhere = open("/dev/null", O_WRONLY);
+            dup2(nowhere, 1);
+            dup2(nowhere, 2);
+            execl(NGA_TOOL, NGA_TOOL, "upgrade", path.c_str(), static_cast<char*>(nullptr));
+            _exit(3);
+        }
+        usleep(static_cast<unsigned>(random() % 60000));
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        killed += WIFSIGNALED(status) ? 1 : 0;
+        std::string const now = Contents(path);
+        ASSERT_TRUE(now == old || now == fresh) << round;
+        for (auto const& entry : std::filesystem::directory_iterator(folder.Path())) {
+            std::string const name = entry.path().filename().string();
+            if (name.find(".bak") == std::string::npos) continue;
+            ASSERT_EQ(Contents(entry.path().string()), old) << round;
+            std::filesystem::remove(entry.path());
+        }
+        store_test::Overwrite(path, old);
+    }
+    EXPECT_GT(killed, 0);
+    // What the killed ones left is cleared away by the next.
+    ASSERT_EQ(RunNga({"upgrade", path}).code, 0);
+    EXPECT_EQ(folder.Entries(), 3);
 }
 
 }  // namespace
