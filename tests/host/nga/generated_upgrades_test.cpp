@@ -33,29 +33,6 @@ std::vector<std::string> NamesIn(ddr_Model const& model, char const* repository)
     return names;
 }
 
-/// Rebuilds the object of every row, also of those that no name leads to.
-void ReadEveryRow(std::string const& path) {
-    cls_ClassRegistrar const& registrar =
-        omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
-    auto const database = nga::SqliteDatabase::Open(
-        path, static_cast<long long>(std::filesystem::file_size(path)),
-        [](nga::CatalogueEntry const&) { return std::optional<rfm_TableMetadata>(); });
-    for (rfm_Table* table : database->Tables()) {
-        cls_ClassMetadata const* const metadata = registrar.Find(table->Metadata().TypeId());
-        if (!metadata || !metadata->HasCtor()) continue;
-        rom_Transporter transporter(*database, registrar);
-        for (int oid = 0; oid < table->RowCount(); ++oid) {
-            try {
-                transporter.Read(metadata->TypeId(), oid);
-            } catch (nex_Exception const& failure) {
-                ADD_FAILURE() << metadata->Name().Text() << " row " << oid << ": "
-                              << failure.AsString().Text();
-                break;
-            }
-        }
-    }
-}
-
 class GeneratedUpgrades : public testing::TestWithParam<int> {
 protected:
     void SetUp() override { nga::Start(); }
@@ -81,7 +58,7 @@ TEST_P(GeneratedUpgrades, LeaveEveryObjectUnderItsName) {
     for (auto const& [repository, names] : generated.names)
         EXPECT_EQ(NamesIn(*model, repository.c_str()), names) << repository;
     EXPECT_TRUE(nga::UpgradeFile(path).current);
-    ReadEveryRow(path);
+    old_test::ReadEveryRow(path);
     // Each connector behaviour is a row of its class of today.
     if (schema < 453) return;
     int connectors = 0;
