@@ -440,107 +440,135 @@ INSERT INTO "kmaC_Plastic"("##OID","hardening","rate","dataType","strainRangeDep
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=3
 -- is: 3 0000000000406F40000000000082D4400000000000005E40
 
--- Expansions: by a subroutine, which is a flag now, and of the plain kind.
+-- Two options of one table, which disagree about its gamma: whoever is brought over last has the
+-- word.
+-- 140, 6000
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(4,x'',0,82,x'1100000000000000A801000000005EED');
+  VALUES(4,x'0000000000806140000000000070B740',2,82,x'1100000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialTable"("##OID","table#ClassID","table#OID","allowEmptyFirstRow","##BaseClassOID","##Uid")
   VALUES(4,2293761,4,0,-1,x'1200000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(4,-1,x'1300000000000000A801000000005EED');
+INSERT INTO "kmaC_Plastic"("##OID","hardening","rate","dataType","strainRangeDependency","gamma","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
+  VALUES(4,'COMBINED',0,'PARAMETERS',0,33.0,0,0,37224536,4,4,x'1400000000000000A801000000005EED');
+INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
+  VALUES(5,-1,x'1500000000000000A801000000005EED');
+INSERT INTO "kmaC_Plastic"("##OID","hardening","rate","dataType","strainRangeDependency","gamma","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
+  VALUES(5,'COMBINED',0,'PARAMETERS',0,44.0,0,0,37224536,4,5,x'1600000000000000A801000000005EED');
+-- after: SELECT "numBackstresses"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=4
+-- is: 1 37224536:4
+-- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=4
+-- is: 3 0000000000806140000000000070B7400000000000004640
+-- after: SELECT "numBackstresses"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=5
+-- is: 1 37224536:4
+-- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=5
+-- is: 3 0000000000806140000000000070B7400000000000004640
+
+-- Expansions: by a subroutine, which is a flag now, and of the plain kind.
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
+  VALUES(5,x'',0,82,x'1700000000000000A801000000005EED');
+INSERT INTO "kmaC_MaterialTable"("##OID","table#ClassID","table#OID","allowEmptyFirstRow","##BaseClassOID","##Uid")
+  VALUES(5,2293761,5,0,-1,x'1800000000000000A801000000005EED');
+INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
+  VALUES(6,-1,x'1900000000000000A801000000005EED');
 INSERT INTO "kmaC_Expansion"("##OID","type","zero","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(0,'USER',23.0,0,2,37224536,4,4,x'1400000000000000A801000000005EED');
+  VALUES(0,'USER',23.0,0,2,37224536,5,6,x'1A00000000000000A801000000005EED');
 -- 2.3e-05
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(5,x'7B8505F7031EF83E',1,82,x'1500000000000000A801000000005EED');
+  VALUES(6,x'7B8505F7031EF83E',1,82,x'1B00000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialTable"("##OID","table#ClassID","table#OID","allowEmptyFirstRow","##BaseClassOID","##Uid")
-  VALUES(5,2293761,5,0,-1,x'1600000000000000A801000000005EED');
+  VALUES(6,2293761,6,0,-1,x'1C00000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
-  VALUES(5,-1,x'1700000000000000A801000000005EED');
+  VALUES(7,-1,x'1D00000000000000A801000000005EED');
 INSERT INTO "kmaC_Expansion"("##OID","type","zero","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(1,'ISOTROPIC',0.0,0,0,37224536,5,5,x'1800000000000000A801000000005EED');
+  VALUES(1,'ISOTROPIC',0.0,0,0,37224536,6,7,x'1E00000000000000A801000000005EED');
 -- after: SELECT "type"||' '||"userSubroutine"||' '||"zero"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Expansion WHERE "##OID"=0
--- is: ISOTROPIC 1 23.0 0 2 37224536:4
+-- is: ISOTROPIC 1 23.0 0 2 37224536:5
 -- after: SELECT "type"||' '||"userSubroutine"||' '||"zero"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Expansion WHERE "##OID"=1
--- is: ISOTROPIC 0 0.0 0 0 37224536:5
+-- is: ISOTROPIC 0 0.0 0 0 37224536:6
 
 -- A subroutine's material for crash, mechanical and thermal; the lists are what the material
 -- tables held.
 -- 210000, 0.3, 290, 0.18
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(6,x'0000000080A20941333333333333D33F00000000002072400AD7A3703D0AC73F',4,82,x'1900000000000000A801000000005EED');
+  VALUES(7,x'0000000080A20941333333333333D33F00000000002072400AD7A3703D0AC73F',4,82,x'1F00000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialTable"("##OID","table#ClassID","table#OID","allowEmptyFirstRow","##BaseClassOID","##Uid")
-  VALUES(6,2293761,6,0,-1,x'1A00000000000000A801000000005EED');
+  VALUES(7,2293761,7,0,-1,x'2000000000000000A801000000005EED');
 -- 45, 4.6e+08
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(7,x'0000000000804640000000000B6BBB41',2,82,x'1B00000000000000A801000000005EED');
+  VALUES(8,x'0000000000804640000000000B6BBB41',2,82,x'2100000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialTable"("##OID","table#ClassID","table#OID","allowEmptyFirstRow","##BaseClassOID","##Uid")
-  VALUES(7,2293761,7,0,-1,x'1C00000000000000A801000000005EED');
+  VALUES(8,2293761,8,0,-1,x'2200000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
-  VALUES(6,-1,x'1D00000000000000A801000000005EED');
+  VALUES(8,-1,x'2300000000000000A801000000005EED');
 INSERT INTO "kmaC_UserMaterial"("##OID","type","unsymm","mechanicalTable#ClassID","mechanicalTable#OID","thermalTable#ClassID","thermalTable#OID","##BaseClassOID","##Uid")
-  VALUES(0,'THERMOMECHANICAL',0,37224536,6,37224536,7,6,x'1E00000000000000A801000000005EED');
+  VALUES(0,'THERMOMECHANICAL',0,37224536,7,37224536,8,8,x'2400000000000000A801000000005EED');
 -- after: SELECT "type"||' '||"unsymm"||' '||"mechanicalConstants#ClassID"||':'||"mechanicalConstants#OID"||' '||"thermalConstants#ClassID"||':'||"thermalConstants#OID" FROM kmaC_UserMaterial WHERE "##OID"=0
--- is: THERMOMECHANICAL 0 2293761:6 2293761:7
--- after: SELECT hex("Target#Handle") FROM cls_List WHERE "##OID" IN (6,7) ORDER BY "##OID"
+-- is: THERMOMECHANICAL 0 2293761:7 2293761:8
+-- after: SELECT hex("Target#Handle") FROM cls_List WHERE "##OID" IN (7,8) ORDER BY "##OID"
 -- is: 0000000080A20941333333333333D33F00000000002072400AD7A3703D0AC73F 0000000000804640000000000B6BBB41
 
 -- The rubber of its mounts: the volumetric response of this layout is kept as it was chosen.
 -- 0.55, 0.02
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(8,x'9A9999999999E13F7B14AE47E17A943F',2,82,x'1F00000000000000A801000000005EED');
+  VALUES(9,x'9A9999999999E13F7B14AE47E17A943F',2,82,x'2500000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialTable"("##OID","table#ClassID","table#OID","allowEmptyFirstRow","##BaseClassOID","##Uid")
-  VALUES(8,2293761,8,0,-1,x'2000000000000000A801000000005EED');
+  VALUES(9,2293761,9,0,-1,x'2600000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
-  VALUES(7,-1,x'2100000000000000A801000000005EED');
+  VALUES(9,-1,x'2700000000000000A801000000005EED');
 INSERT INTO "kmaC_Hyperelastic"("##OID","type","moduliTimeScale","temperatureDependency","n","beta","testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(0,'NEO_HOOKE','INSTANTANEOUS',0,1,1.7976931348623157e+308,0,1,0,'PLANAR','POISSON_RATIO',0.49,37224536,8,7,x'2200000000000000A801000000005EED');
+  VALUES(0,'NEO_HOOKE','INSTANTANEOUS',0,1,1.7976931348623157e+308,0,1,0,'PLANAR','POISSON_RATIO',0.49,37224536,9,9,x'2800000000000000A801000000005EED');
 -- after: SELECT "type"||' '||"moduliTimeScale"||' '||"temperatureDependency"||' '||"n"||' '||("beta"=1.7976931348623157e308)||' '||"testData"||' '||"compressible"||' '||"properties"||' '||"deviatoricResponse"||' '||"volumetricResponse"||' '||"poissonRatio"||' '||"table#ClassID"||':'||"table#OID"||' '||("biaxialTestData#OID" IS NULL)||' '||("volumetricTestData#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
--- is: NEO_HOOKE INSTANTANEOUS 0 1 1 0 1 0 PLANAR POISSON_RATIO 0.49 37224536:8 1 1
+-- is: NEO_HOOKE INSTANTANEOUS 0 1 1 0 1 0 PLANAR POISSON_RATIO 0.49 37224536:9 1 1
 -- 1e-09, 3, -0.1
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(9,x'95D626E80B2E113E00000000000008409A9999999999B9BF',3,82,x'2300000000000000A801000000005EED');
+  VALUES(10,x'95D626E80B2E113E00000000000008409A9999999999B9BF',3,82,x'2900000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialTable"("##OID","table#ClassID","table#OID","allowEmptyFirstRow","##BaseClassOID","##Uid")
-  VALUES(9,2293761,9,0,-1,x'2400000000000000A801000000005EED');
+  VALUES(10,2293761,10,0,-1,x'2A00000000000000A801000000005EED');
 INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
-  VALUES(8,-1,x'2500000000000000A801000000005EED');
+  VALUES(10,-1,x'2B00000000000000A801000000005EED');
 INSERT INTO "kmaC_Viscous"("##OID","law","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(0,'STRAIN',0,0,37224536,9,8,x'2600000000000000A801000000005EED');
+  VALUES(0,'STRAIN',0,0,37224536,10,10,x'2C00000000000000A801000000005EED');
 -- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("potential#OID" IS NULL) FROM kmaC_Viscous WHERE "##OID"=0
--- is: STRAIN 0 0 37224536:9 1
+-- is: STRAIN 0 0 37224536:10 1
 INSERT INTO "kmaC_Material"("##OID","expansion#ClassID","expansion#OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
-  VALUES(0,37224481,0,37224508,0,-1,x'2700000000000000A801000000005EED');
+  VALUES(0,37224481,0,37224508,0,-1,x'2D00000000000000A801000000005EED');
 INSERT INTO "kmaC_Material"("##OID","expansion#ClassID","expansion#OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
-  VALUES(1,37224481,1,37224508,1,-1,x'2800000000000000A801000000005EED');
+  VALUES(1,37224481,1,37224508,1,-1,x'2E00000000000000A801000000005EED');
 INSERT INTO "kmaC_Material"("##OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
-  VALUES(2,37224508,2,-1,x'2900000000000000A801000000005EED');
+  VALUES(2,37224508,2,-1,x'2F00000000000000A801000000005EED');
 INSERT INTO "kmaC_Material"("##OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
-  VALUES(3,37224508,3,-1,x'2A00000000000000A801000000005EED');
+  VALUES(3,37224508,3,-1,x'3000000000000000A801000000005EED');
 INSERT INTO "kmaC_Material"("##OID","userMaterial#ClassID","userMaterial#OID","##BaseClassOID","##Uid")
-  VALUES(4,37224531,0,-1,x'2B00000000000000A801000000005EED');
+  VALUES(4,37224531,0,-1,x'3100000000000000A801000000005EED');
+INSERT INTO "kmaC_Material"("##OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
+  VALUES(5,37224508,4,-1,x'3200000000000000A801000000005EED');
+INSERT INTO "kmaC_Material"("##OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
+  VALUES(6,37224508,5,-1,x'3300000000000000A801000000005EED');
 INSERT INTO "kmaC_Material"("##OID","hyperelastic#ClassID","hyperelastic#OID","viscous#ClassID","viscous#OID","##BaseClassOID","##Uid")
-  VALUES(5,37224494,0,37224560,0,-1,x'2C00000000000000A801000000005EED');
--- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||"viscous#ClassID"||':'||"viscous#OID"||' '||("viscoelastic#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=5
+  VALUES(7,37224494,0,37224560,0,-1,x'3400000000000000A801000000005EED');
+-- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||"viscous#ClassID"||':'||"viscous#OID"||' '||("viscoelastic#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=7
 -- is: 37224494:0 37224560:0 1 1 1
 
 -- Its histories have a time span already; the kind of definition is dropped.
 -- 0, 0; 0.08, 15
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(10,x'000000000000000000000000000000007B14AE47E17AB43F0000000000002E40',2,82,x'2D00000000000000A801000000005EED');
+  VALUES(11,x'000000000000000000000000000000007B14AE47E17AB43F0000000000002E40',2,82,x'3500000000000000A801000000005EED');
 INSERT INTO "kamC_Amplitude"("##OID","definition","timeSpan","##BaseClassOID","##Uid")
-  VALUES(0,'TABULAR','TOTAL',-1,x'2E00000000000000A801000000005EED');
+  VALUES(0,'TABULAR','TOTAL',-1,x'3600000000000000A801000000005EED');
 INSERT INTO "kamC_Tabular"("##OID","smooth","data#ClassID","data#OID","##BaseClassOID","##Uid")
-  VALUES(0,0.0,2293761,10,0,x'2F00000000000000A801000000005EED');
+  VALUES(0,0.0,2293761,11,0,x'3700000000000000A801000000005EED');
 -- after: SELECT "smooth"||' '||"data#ClassID"||':'||"data#OID"||' '||("baselineCorrection#OID" IS NULL) FROM kamC_Tabular WHERE "##OID"=0
--- is: 0.0 2293761:10 1
+-- is: 0.0 2293761:11 1
 -- 0.3, -0.1
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(11,x'333333333333D33F9A9999999999B9BF',2,82,x'3000000000000000A801000000005EED');
+  VALUES(12,x'333333333333D33F9A9999999999B9BF',2,82,x'3800000000000000A801000000005EED');
 INSERT INTO "kamC_Amplitude"("##OID","definition","timeSpan","##BaseClassOID","##Uid")
-  VALUES(1,'PERIODIC','STEP',-1,x'3100000000000000A801000000005EED');
+  VALUES(1,'PERIODIC','STEP',-1,x'3900000000000000A801000000005EED');
 INSERT INTO "kamC_Periodic"("##OID","frequency","start","a_0","data#ClassID","data#OID","##BaseClassOID","##Uid")
-  VALUES(0,94.25,0.0,1.0,2293761,11,1,x'3200000000000000A801000000005EED');
+  VALUES(0,94.25,0.0,1.0,2293761,12,1,x'3A00000000000000A801000000005EED');
 -- after: SELECT "frequency"||' '||"start"||' '||"a_0"||' '||"data#ClassID"||':'||"data#OID" FROM kamC_Periodic WHERE "##OID"=0
--- is: 94.25 0.0 1.0 2293761:11
+-- is: 94.25 0.0 1.0 2293761:12
 -- after: SELECT timeSpan FROM kamC_Amplitude ORDER BY "##OID"
 -- is: TOTAL STEP
 -- after: SELECT count(*) FROM pragma_table_info('kamC_Amplitude') WHERE name IN ('definition')
@@ -550,20 +578,20 @@ INSERT INTO "kamC_Periodic"("##OID","frequency","start","a_0","data#ClassID","da
 -- three thicknesses, and the fourth field has no value.
 -- 2, 2.5, 2, 2.5
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(12,x'0000000000000040000000000000044000000000000000400000000000000440',1,52,x'3300000000000000A801000000005EED');
+  VALUES(13,x'0000000000000040000000000000044000000000000000400000000000000440',1,52,x'3B00000000000000A801000000005EED');
 INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
-  VALUES(0,-1,x'3400000000000000A801000000005EED');
+  VALUES(0,-1,x'3C00000000000000A801000000005EED');
 INSERT INTO "kbpC_BoxProfile"("##OID","b","a","tempThick#ClassID","tempThick#OID","uniformThickness","##BaseClassOID","##Uid")
-  VALUES(0,150.0,60.0,2293761,12,0,0,x'3500000000000000A801000000005EED');
+  VALUES(0,150.0,60.0,2293761,13,0,0,x'3D00000000000000A801000000005EED');
 -- after: SELECT "a"||' '||"b"||' '||"uniformThickness"||' '||"t1"||' '||"t2"||' '||"t3"||' '||"t4" FROM kbpC_BoxProfile WHERE "##OID"=0
 -- is: 60.0 150.0 0 2.0 2.5 2.0 2.5
 -- 1.2, 1.4, 1.2
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(13,x'333333333333F33F666666666666F63F333333333333F33F',1,52,x'3600000000000000A801000000005EED');
+  VALUES(14,x'333333333333F33F666666666666F63F333333333333F33F',1,52,x'3E00000000000000A801000000005EED');
 INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
-  VALUES(1,-1,x'3700000000000000A801000000005EED');
+  VALUES(1,-1,x'3F00000000000000A801000000005EED');
 INSERT INTO "kbpC_BoxProfile"("##OID","b","a","tempThick#ClassID","tempThick#OID","uniformThickness","##BaseClassOID","##Uid")
-  VALUES(1,110.0,90.0,2293761,13,0,1,x'3800000000000000A801000000005EED');
+  VALUES(1,110.0,90.0,2293761,14,0,1,x'4000000000000000A801000000005EED');
 -- after: SELECT "a"||' '||"b"||' '||"t1"||' '||"t2"||' '||"t3" FROM kbpC_BoxProfile WHERE "##OID"=1
 -- is: 90.0 110.0 1.2 1.4 1.2
 -- after: SELECT t4 IS NULL FROM kbpC_BoxProfile WHERE "##OID"=1
@@ -571,25 +599,25 @@ INSERT INTO "kbpC_BoxProfile"("##OID","b","a","tempThick#ClassID","tempThick#OID
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_BoxProfile') WHERE name IN ('tempThick#ClassID','tempThick#OID')
 -- is: 0
 INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
-  VALUES(2,-1,x'3900000000000000A801000000005EED');
+  VALUES(2,-1,x'4100000000000000A801000000005EED');
 INSERT INTO "kbpC_GeneralizedProfile"("##OID","linearBehavior","area","i11","i12","i22","j","gammaO","gammaW","##BaseClassOID","##Uid")
-  VALUES(0,0,120.0,5400.0,-12.5,880.0,310.0,0.0,0.0,2,x'3A00000000000000A801000000005EED');
+  VALUES(0,0,120.0,5400.0,-12.5,880.0,310.0,0.0,0.0,2,x'4200000000000000A801000000005EED');
 -- after: SELECT "area"||' '||"i11"||' '||"i12"||' '||"i22"||' '||"j"||' '||"gammaO"||' '||"gammaW" FROM kbpC_GeneralizedProfile WHERE "##OID"=0
 -- is: 120.0 5400.0 -12.5 880.0 310.0 0.0 0.0
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_GeneralizedProfile') WHERE name IN ('linearBehavior')
 -- is: 0
 INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
-  VALUES(3,-1,x'3B00000000000000A801000000005EED');
+  VALUES(3,-1,x'4300000000000000A801000000005EED');
 INSERT INTO "kbpC_IbeamProfile"("##OID","l","h","b1","b2","t1","t2","t3","integration","##BaseClassOID","##Uid")
-  VALUES(0,40.0,80.0,46.0,46.0,5.2,5.2,3.8,0,3,x'3C00000000000000A801000000005EED');
+  VALUES(0,40.0,80.0,46.0,46.0,5.2,5.2,3.8,0,3,x'4400000000000000A801000000005EED');
 -- after: SELECT "l"||' '||"h"||' '||"b1"||' '||"b2"||' '||"t1"||' '||"t2"||' '||"t3" FROM kbpC_IbeamProfile WHERE "##OID"=0
 -- is: 40.0 80.0 46.0 46.0 5.2 5.2 3.8
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_IbeamProfile') WHERE name IN ('integration')
 -- is: 0
 INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
-  VALUES(4,-1,x'3D00000000000000A801000000005EED');
+  VALUES(4,-1,x'4500000000000000A801000000005EED');
 INSERT INTO "kbpC_PipeProfile"("##OID","r","t","##BaseClassOID","##Uid")
-  VALUES(0,27.5,1.5,4,x'3E00000000000000A801000000005EED');
+  VALUES(0,27.5,1.5,4,x'4600000000000000A801000000005EED');
 -- after: SELECT "r"||' '||"t" FROM kbpC_PipeProfile WHERE "##OID"=0
 -- is: 27.5 1.5
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kmaC_Plastic','kmaC_Expansion','kmaC_UserMaterial','kmaC_Hyperelastic','kmaC_Viscous','kamC_Amplitude','kbpC_BoxProfile','kbpC_GeneralizedProfile','kbpC_IbeamProfile','kbpC_PipeProfile') ORDER BY ClassName
@@ -606,12 +634,16 @@ INSERT INTO "kbpC_PipeProfile"("##OID","r","t","##BaseClassOID","##Uid")
 -- is: 37224508:3 1 1 1
 -- after: SELECT "userMaterial#ClassID"||':'||"userMaterial#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=4
 -- is: 37224531:0 1 1 1
+-- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=5
+-- is: 37224508:4 1 1 1
+-- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=6
+-- is: 37224508:5 1 1 1
 
 -- The materials by name.
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
   VALUES(0,0,'crash foam',37224449,4);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(1,0,'mount rubber',37224449,5);
+  VALUES(1,0,'mount rubber',37224449,7);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
   VALUES(2,0,'sheet DC04',37224449,0);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
@@ -619,40 +651,44 @@ INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
   VALUES(4,0,'sheet H340',37224449,2);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(5,0,'sheet of the other mill',37224449,3);
+  VALUES(5,0,'sheet of 1998',37224449,5);
+INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
+  VALUES(6,0,'sheet of 1999',37224449,6);
+INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
+  VALUES(7,0,'sheet of the other mill',37224449,3);
 INSERT INTO "cls_Map"("##OID","Target#Kind","#First","#Count","##Uid")
-  VALUES(0,2,0,6,x'3F00000000000000A801000000005EED');
+  VALUES(0,2,0,8,x'4700000000000000A801000000005EED');
 INSERT INTO "kmaC_MCWrapper"("##OID","extension#ClassID","extension#OID","##BaseClassOID","##Uid")
-  VALUES(0,2293762,0,-1,x'4000000000000000A801000000005EED');
+  VALUES(0,2293762,0,-1,x'4800000000000000A801000000005EED');
 -- after: SELECT group_concat(e.key,', ') FROM kmaC_MCWrapper w JOIN cls_MapEntry e ON e.owner=w."extension#OID"
--- is: crash foam, mount rubber, sheet DC04, sheet DX56, sheet H340, sheet of the other mill
+-- is: crash foam, mount rubber, sheet DC04, sheet DX56, sheet H340, sheet of 1998, sheet of 1999, sheet of the other mill
 
 -- The amplitudes by name.
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(6,1,'crash pulse',38010888,0);
+  VALUES(8,1,'crash pulse',38010888,0);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(7,1,'idle',38010886,0);
+  VALUES(9,1,'idle',38010886,0);
 INSERT INTO "cls_Map"("##OID","Target#Kind","#First","#Count","##Uid")
-  VALUES(1,2,6,2,x'4100000000000000A801000000005EED');
+  VALUES(1,2,8,2,x'4900000000000000A801000000005EED');
 INSERT INTO "kamC_ACWrapper"("##OID","extension#ClassID","extension#OID","##BaseClassOID","##Uid")
-  VALUES(0,2293762,1,-1,x'4200000000000000A801000000005EED');
+  VALUES(0,2293762,1,-1,x'4A00000000000000A801000000005EED');
 -- after: SELECT group_concat(e.key,', ') FROM kamC_ACWrapper w JOIN cls_MapEntry e ON e.owner=w."extension#OID"
 -- is: crash pulse, idle
 
 -- The profiles by name.
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(8,2,'cross member',40108038,0);
+  VALUES(10,2,'cross member',40108038,0);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(9,2,'exhaust',40108037,0);
+  VALUES(11,2,'exhaust',40108037,0);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(10,2,'rocker',40108039,1);
+  VALUES(12,2,'rocker',40108039,1);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(11,2,'roof bow',40108034,0);
+  VALUES(13,2,'roof bow',40108034,0);
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
-  VALUES(12,2,'side rail',40108039,0);
+  VALUES(14,2,'side rail',40108039,0);
 INSERT INTO "cls_Map"("##OID","Target#Kind","#First","#Count","##Uid")
-  VALUES(2,2,8,5,x'4300000000000000A801000000005EED');
+  VALUES(2,2,10,5,x'4B00000000000000A801000000005EED');
 INSERT INTO "kbpC_BPCWrapper"("##OID","extension#ClassID","extension#OID","##BaseClassOID","##Uid")
-  VALUES(0,2293762,2,-1,x'4400000000000000A801000000005EED');
+  VALUES(0,2293762,2,-1,x'4C00000000000000A801000000005EED');
 -- after: SELECT group_concat(e.key,', ') FROM kbpC_BPCWrapper w JOIN cls_MapEntry e ON e.owner=w."extension#OID"
 -- is: cross member, exhaust, rocker, roof bow, side rail

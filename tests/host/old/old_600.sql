@@ -443,39 +443,71 @@ INSERT INTO "kbeC_Plasticity"("##OID","isotropic","isotropicType","isotropicTemp
 -- after: SELECT "isotropicOptions#OID"<>"kinematicOptions#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
 -- is: 1
 
+-- Its spare has the same container: each has a list of its own, of the same potential.
+-- 4
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
+  VALUES(10,x'04000000',1,54,x'29000000000000005802000000005EED');
+INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
+  VALUES(3,2293761,10,-1,x'2A000000000000005802000000005EED');
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
+  VALUES(11,x'',0,82,x'2B000000000000005802000000005EED');
+INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
+  VALUES(4,2293761,11,-1,x'2C000000000000005802000000005EED');
+-- 15, 0; 18, 0.1
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
+  VALUES(12,x'0000000000002E40000000000000000000000000000032409A9999999999B93F',2,82,x'2D000000000000005802000000005EED');
+INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
+  VALUES(5,2293761,12,-1,x'2E000000000000005802000000005EED');
+INSERT INTO "kbeC_Plasticity"("##OID","isotropic","isotropicType","isotropicTemperature","isotropicDependencies","isotropicTable#ClassID","isotropicTable#OID","kinematic","kinematicType","kinematicTemperature","kinematicDependencies","kinematicTable#ClassID","kinematicTable#OID","coupling","frcPotOperator","frcPotExponent","potentials#ClassID","potentials#OID","lastId","##BaseClassOID","##Uid")
+  VALUES(1,0,'TABULAR',0,0,655374,4,1,'HALF_CYCLE',0,0,655374,5,'COUPLED','SUM',2.0,44564501,2,1,3,x'2F000000000000005802000000005EED');
+-- after: SELECT "coupling"||' '||"isotropic"||' '||"kinematic"||' '||"kinematicType"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"isotropicTable#ClassID"||':'||"isotropicTable#OID"||' '||"kinematicTable#ClassID"||':'||"kinematicTable#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=1
+-- is: COUPLED 0 1 HALF_CYCLE SUM 2.0 655374:4 655374:5 2293761:10
+-- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorPlasticity o JOIN cls_ListEntry e ON e.owner=o."connectorPotentials#OID" WHERE o."##OID"=1 ORDER BY e."##OID"
+-- is: 44564511:3
+-- after: SELECT l."Target#Kind"||' '||l."#Count" FROM kbeC_ConnectorPlasticity o JOIN cls_List l ON l."##OID"=o."connectorPotentials#OID" WHERE o."##OID"=1 AND o."connectorPotentials#ClassID"=2293761
+-- is: 1 1
+-- after: SELECT count(DISTINCT "connectorPotentials#OID") FROM kbeC_ConnectorPlasticity
+-- is: 2
+-- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=1 AND o."isotropicOptions#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=1 AND o."kinematicOptions#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT "isotropicOptions#OID"<>"kinematicOptions#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=1
+-- is: 1
+
 -- The gripper's damage by motion, begun by one sum of potentials and evolved by the largest of
 -- none. Both operators took longer literals for a while and have their short ones back.
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
   VALUES(4,3,7,44564502,4);
 INSERT INTO "cls_Map"("##OID","Target#Kind","#First","#Count","##Uid")
-  VALUES(3,3,4,1,x'29000000000000005802000000005EED');
+  VALUES(3,3,4,1,x'30000000000000005802000000005EED');
 INSERT INTO "kbeC_PotentialContainer"("##OID","map#ClassID","map#OID","##BaseClassOID","##Uid")
-  VALUES(3,2293762,3,-1,x'2A000000000000005802000000005EED');
+  VALUES(3,2293762,3,-1,x'31000000000000005802000000005EED');
 INSERT INTO "cls_Map"("##OID","Target#Kind","#First","#Count","##Uid")
-  VALUES(4,3,5,0,x'2B000000000000005802000000005EED');
+  VALUES(4,3,5,0,x'32000000000000005802000000005EED');
 INSERT INTO "kbeC_PotentialContainer"("##OID","map#ClassID","map#OID","##BaseClassOID","##Uid")
-  VALUES(4,2293762,4,-1,x'2C000000000000005802000000005EED');
+  VALUES(4,2293762,4,-1,x'33000000000000005802000000005EED');
 -- 5
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(10,x'05000000',1,54,x'2D000000000000005802000000005EED');
+  VALUES(13,x'05000000',1,54,x'34000000000000005802000000005EED');
 INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
-  VALUES(3,2293761,10,-1,x'2E000000000000005802000000005EED');
+  VALUES(4,2293761,13,-1,x'35000000000000005802000000005EED');
 -- -1e+36, 4.5, 20, 0
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(11,x'E32079CFF91268C7000000000000124000000000000034400000000000000000',4,82,x'2F000000000000005802000000005EED');
+  VALUES(14,x'E32079CFF91268C7000000000000124000000000000034400000000000000000',4,82,x'36000000000000005802000000005EED');
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(4,2293761,11,-1,x'30000000000000005802000000005EED');
+  VALUES(6,2293761,14,-1,x'37000000000000005802000000005EED');
 -- 2.2, 0.7, 20
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(12,x'9A99999999990140666666666666E63F0000000000003440',3,82,x'31000000000000005802000000005EED');
+  VALUES(15,x'9A99999999990140666666666666E63F0000000000003440',3,82,x'38000000000000005802000000005EED');
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(5,2293761,12,-1,x'32000000000000005802000000005EED');
+  VALUES(7,2293761,15,-1,x'39000000000000005802000000005EED');
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(13,x'',1,54,x'33000000000000005802000000005EED');
+  VALUES(16,x'',1,54,x'3A000000000000005802000000005EED');
 INSERT INTO "kbeC_Damage"("##OID","criterion","initiationTemperature","initiationDependencies","initiationTable#ClassID","initiationTable#OID","evolution","evolutionType","softening","useAffected","affectedComponents#ClassID","affectedComponents#OID","degradation","evolutionTemperature","evolutionDependencies","evolutionTable#ClassID","evolutionTable#OID","coupling","iniPotOperator","iniPotExponent","iniPotentials#ClassID","iniPotentials#OID","lastIniId","evoPotOperator","evoPotExponent","evoPotentials#ClassID","evoPotentials#OID","lastEvoId","##BaseClassOID","##Uid")
-  VALUES(0,'MOTION',1,1,655374,4,1,'MOTION','EXPONENTIAL',0,2293761,13,'MAXIMUM',1,0,655374,5,'COUPLED','SUM',2.0,44564501,3,7,'MAXIMUM',1.5,44564501,4,0,3,x'34000000000000005802000000005EED');
+  VALUES(0,'MOTION',1,1,655374,6,1,'MOTION','EXPONENTIAL',0,2293761,16,'MAXIMUM',1,0,655374,7,'COUPLED','SUM',2.0,44564501,3,7,'MAXIMUM',1.5,44564501,4,0,4,x'3B000000000000005802000000005EED');
 -- after: SELECT "coupling"||' '||"criterion"||' '||"initiationTemperature"||' '||"initiationPotentialOperator"||' '||"initiationPotentialExponent"||' '||"initiationDependencies"||' '||"evolution"||' '||"evolutionType"||' '||"softening"||' '||"useAffected"||' '||"degradation"||' '||"evolutionTemperature"||' '||"evolutionDependencies"||' '||"evolutionPotentialOperator"||' '||"evolutionPotentialExponent"||' '||"initiationTable#ClassID"||':'||"initiationTable#OID"||' '||"evolutionTable#ClassID"||':'||"evolutionTable#OID"||' '||"affectedComponents#ClassID"||':'||"affectedComponents#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
--- is: COUPLED MOTION 1 SUM 2.0 1 1 MOTION_TYPE EXPONENTIAL 0 MAXIMUM 1 0 MAXIMUM 1.5 655374:4 655374:5 2293761:13 2293761:10
+-- is: COUPLED MOTION 1 SUM 2.0 1 1 MOTION_TYPE EXPONENTIAL 0 MAXIMUM 1 0 MAXIMUM 1.5 655374:6 655374:7 2293761:16 2293761:13
 -- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorDamage o JOIN cls_ListEntry e ON e.owner=o."initiationPotentials#OID" WHERE o."##OID"=0 ORDER BY e."##OID"
 -- is: 44564511:4
 -- after: SELECT l."Target#Kind"||' '||l."#Count" FROM kbeC_ConnectorDamage o JOIN cls_List l ON l."##OID"=o."initiationPotentials#OID" WHERE o."##OID"=0 AND o."initiationPotentials#ClassID"=2293761
@@ -494,70 +526,70 @@ INSERT INTO "kbeC_Damage"("##OID","criterion","initiationTemperature","initiatio
 -- A joint that is rigid but for a damper, a stop at its end, a lock and a release.
 -- 6
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(14,x'06000000',1,54,x'35000000000000005802000000005EED');
-INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
-  VALUES(4,2293761,14,-1,x'36000000000000005802000000005EED');
-INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(15,x'',0,82,x'37000000000000005802000000005EED');
-INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(6,2293761,15,-1,x'38000000000000005802000000005EED');
-INSERT INTO "kbeC_Tabular"("##OID","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(2,0,0,655374,6,4,x'39000000000000005802000000005EED');
-INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(16,x'',1,54,x'3A000000000000005802000000005EED');
-INSERT INTO "kbeC_Elasticity"("##OID","coupling","behavior","dependentComponents#ClassID","dependentComponents#OID","frequencyDependency","##BaseClassOID","##Uid")
-  VALUES(0,'UNCOUPLED','RIGID',2293761,16,0,2,x'3B000000000000005802000000005EED');
--- 6
-INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
   VALUES(17,x'06000000',1,54,x'3C000000000000005802000000005EED');
 INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
   VALUES(5,2293761,17,-1,x'3D000000000000005802000000005EED');
--- -0.8, -1, 20; 0.8, 1, 20
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(18,x'9A9999999999E9BF000000000000F0BF00000000000034409A9999999999E93F000000000000F03F0000000000003440',3,82,x'3E000000000000005802000000005EED');
+  VALUES(18,x'',0,82,x'3E000000000000005802000000005EED');
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(7,2293761,18,-1,x'3F000000000000005802000000005EED');
+  VALUES(8,2293761,18,-1,x'3F000000000000005802000000005EED');
 INSERT INTO "kbeC_Tabular"("##OID","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
-  VALUES(3,1,0,655374,7,5,x'40000000000000005802000000005EED');
+  VALUES(2,0,0,655374,8,5,x'40000000000000005802000000005EED');
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
   VALUES(19,x'',1,54,x'41000000000000005802000000005EED');
-INSERT INTO "kbeC_Damping"("##OID","coupling","behavior","dependentComponents#ClassID","dependentComponents#OID","frequencyDependency","##BaseClassOID","##Uid")
-  VALUES(0,'UNCOUPLED','NONLINEAR',2293761,19,0,3,x'42000000000000005802000000005EED');
+INSERT INTO "kbeC_Elasticity"("##OID","coupling","behavior","dependentComponents#ClassID","dependentComponents#OID","frequencyDependency","##BaseClassOID","##Uid")
+  VALUES(0,'UNCOUPLED','RIGID',2293761,19,0,2,x'42000000000000005802000000005EED');
 -- 6
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
   VALUES(20,x'06000000',1,54,x'43000000000000005802000000005EED');
 INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
   VALUES(6,2293761,20,-1,x'44000000000000005802000000005EED');
+-- -0.8, -1, 20; 0.8, 1, 20
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
+  VALUES(21,x'9A9999999999E9BF000000000000F0BF00000000000034409A9999999999E93F000000000000F03F0000000000003440',3,82,x'45000000000000005802000000005EED');
+INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
+  VALUES(9,2293761,21,-1,x'46000000000000005802000000005EED');
+INSERT INTO "kbeC_Tabular"("##OID","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
+  VALUES(3,1,0,655374,9,6,x'47000000000000005802000000005EED');
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
+  VALUES(22,x'',1,54,x'48000000000000005802000000005EED');
+INSERT INTO "kbeC_Damping"("##OID","coupling","behavior","dependentComponents#ClassID","dependentComponents#OID","frequencyDependency","##BaseClassOID","##Uid")
+  VALUES(0,'UNCOUPLED','NONLINEAR',2293761,22,0,3,x'49000000000000005802000000005EED');
+-- 6
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
+  VALUES(23,x'06000000',1,54,x'4A000000000000005802000000005EED');
+INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
+  VALUES(7,2293761,23,-1,x'4B000000000000005802000000005EED');
 INSERT INTO "kbeC_Stops"("##OID","minDisplacement","maxDisplacement","##BaseClassOID","##Uid")
-  VALUES(0,-1.57,1.57,6,x'45000000000000005802000000005EED');
+  VALUES(0,-1.57,1.57,7,x'4C000000000000005802000000005EED');
 -- 6
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(21,x'06000000',1,54,x'46000000000000005802000000005EED');
+  VALUES(24,x'06000000',1,54,x'4D000000000000005802000000005EED');
 INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
-  VALUES(7,2293761,21,-1,x'47000000000000005802000000005EED');
+  VALUES(8,2293761,24,-1,x'4E000000000000005802000000005EED');
 INSERT INTO "kbeC_MotionDiscontinuity"("##OID","affectedComponent","minDisplacement","maxDisplacement","minForce","maxForce","##BaseClassOID","##Uid")
-  VALUES(0,6,1.7976931348623157e+308,1.5,1.7976931348623157e+308,1.7976931348623157e+308,7,x'48000000000000005802000000005EED');
+  VALUES(0,6,1.7976931348623157e+308,1.5,1.7976931348623157e+308,1.7976931348623157e+308,8,x'4F000000000000005802000000005EED');
 INSERT INTO "kbeC_Lock"("##OID","##BaseClassOID","##Uid")
-  VALUES(0,0,x'49000000000000005802000000005EED');
+  VALUES(0,0,x'50000000000000005802000000005EED');
 -- 6
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
-  VALUES(22,x'06000000',1,54,x'4A000000000000005802000000005EED');
+  VALUES(25,x'06000000',1,54,x'51000000000000005802000000005EED');
 INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
-  VALUES(8,2293761,22,-1,x'4B000000000000005802000000005EED');
+  VALUES(9,2293761,25,-1,x'52000000000000005802000000005EED');
 INSERT INTO "kbeC_MotionDiscontinuity"("##OID","affectedComponent","minDisplacement","maxDisplacement","minForce","maxForce","##BaseClassOID","##Uid")
-  VALUES(1,1,1.7976931348623157e+308,1.7976931348623157e+308,-300.0,300.0,8,x'4C000000000000005802000000005EED');
+  VALUES(1,1,1.7976931348623157e+308,1.7976931348623157e+308,-300.0,300.0,9,x'53000000000000005802000000005EED');
 INSERT INTO "kbeC_Failure"("##OID","##BaseClassOID","##Uid")
-  VALUES(0,1,x'4D000000000000005802000000005EED');
+  VALUES(0,1,x'54000000000000005802000000005EED');
 -- after: SELECT "behavior"||' '||"coupling"||' '||"dependencies"||' '||"temperatureDependency"||' '||"frequencyDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID" FROM kbeC_ConnectorElasticity WHERE "##OID"=0
--- is: RIGID UNCOUPLED 0 0 0 655374:6 2293761:16
+-- is: RIGID UNCOUPLED 0 0 0 655374:8 2293761:19
 -- after: SELECT "behavior"||' '||"coupling"||' '||"dependencies"||' '||"temperatureDependency"||' '||"frequencyDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID" FROM kbeC_ConnectorDamping WHERE "##OID"=0
--- is: NONLINEAR UNCOUPLED 0 1 0 655374:7 2293761:19
+-- is: NONLINEAR UNCOUPLED 0 1 0 655374:9 2293761:22
 -- after: SELECT "minMotion"||' '||"maxMotion"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorStop WHERE "##OID"=0
--- is: -1.57 1.57 2293761:20
+-- is: -1.57 1.57 2293761:23
 -- after: SELECT "lockingComponent"||' '||("minMotion"=1.7976931348623157e308)||' '||"maxMotion"||' '||("minForce"=1.7976931348623157e308)||' '||("maxForce"=1.7976931348623157e308)||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorLock WHERE "##OID"=0
--- is: 6 1 1.5 1 1 2293761:21
+-- is: 6 1 1.5 1 1 2293761:24
 -- after: SELECT "releaseComponent"||' '||("minMotion"=1.7976931348623157e308)||' '||("maxMotion"=1.7976931348623157e308)||' '||"minForce"||' '||"maxForce"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorFailure WHERE "##OID"=0
--- is: 1 1 1 -300.0 300.0 2293761:22
+-- is: 1 1 1 -300.0 300.0 2293761:25
 -- after: SELECT count(*) FROM nga_Catalogue WHERE ClassName IN ('kbeC_Potential','kbeC_PotentialContainer','kbeC_Tabular','kbeC_MotionDiscontinuity','kbeC_Elasticity','kbeC_Damping','kbeC_Stops','kbeC_Lock','kbeC_Failure','kbeC_Friction','kbeC_Plasticity','kbeC_Damage')
 -- is: 0
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kbeC_ConnectorPotential','kbeC_ConnectorBehaviorOption','kbeC_ConnectorElasticity','kbeC_ConnectorDamping','kbeC_ConnectorStop','kbeC_ConnectorLock','kbeC_ConnectorFailure','kbeC_ConnectorFriction','kbeC_ConnectorPlasticity','kbeC_ConnectorDamage','kbeC_ConnectorOptions') ORDER BY ClassName
@@ -571,8 +603,8 @@ INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
 INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID")
   VALUES(7,5,'load cell',55640069,0);
 INSERT INTO "cls_Map"("##OID","Target#Kind","#First","#Count","##Uid")
-  VALUES(5,2,5,3,x'4E000000000000005802000000005EED');
+  VALUES(5,2,5,3,x'55000000000000005802000000005EED');
 INSERT INTO "kflC_FCWrapper"("##OID","extension#ClassID","extension#OID","##BaseClassOID","##Uid")
-  VALUES(0,2293762,5,-1,x'4F000000000000005802000000005EED');
+  VALUES(0,2293762,5,-1,x'56000000000000005802000000005EED');
 -- after: SELECT group_concat(e.key,', ') FROM kflC_FCWrapper w JOIN cls_MapEntry e ON e.owner=w."extension#OID"
 -- is: CFC 60, accelerometer, load cell
