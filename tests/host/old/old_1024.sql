@@ -394,11 +394,11 @@ INSERT INTO "kbeC_ConnectorOptions"("##OID","regularize","defaultTolerance","reg
   VALUES(1,1,1,0.03,1,0.9,NULL,'LINEAR',-1,x'02000000000000000004000000005EED');
 INSERT INTO "kbeC_ConnectorOptions"("##OID","regularize","defaultTolerance","regularization","defaultRateFactor","rateFactor","interpolation","extrapolation","##BaseClassOID","##Uid")
   VALUES(2,1,1,0.03,1,0.9,'LINEAR','CONSTANT',-1,x'03000000000000000004000000005EED');
--- after: SELECT "useBehRegSettings"||' '||"regularize"||' '||"defaultTolerance"||' '||"regularization"||' '||"defaultRateFactor"||' '||"rateFactor"||' '||"interpolation"||' '||"useBehExtSettings"||' '||"extrapolation" FROM kbeC_ConnectorOptions WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',"useBehRegSettings","regularize","defaultTolerance","regularization","defaultRateFactor","rateFactor","interpolation","useBehExtSettings","extrapolation") FROM kbeC_ConnectorOptions WHERE "##OID"=0
 -- is: 1 0 0 0.01 0 0.5 LOGARITHMIC 1 LINEAR
--- after: SELECT "useBehRegSettings"||' '||"regularize"||' '||"defaultTolerance"||' '||"regularization"||' '||"defaultRateFactor"||' '||"rateFactor"||' '||"interpolation"||' '||"useBehExtSettings"||' '||"extrapolation" FROM kbeC_ConnectorOptions WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',"useBehRegSettings","regularize","defaultTolerance","regularization","defaultRateFactor","rateFactor","interpolation","useBehExtSettings","extrapolation") FROM kbeC_ConnectorOptions WHERE "##OID"=1
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 LINEAR
--- after: SELECT "useBehRegSettings"||' '||"regularize"||' '||"defaultTolerance"||' '||"regularization"||' '||"defaultRateFactor"||' '||"rateFactor"||' '||"interpolation"||' '||"useBehExtSettings"||' '||"extrapolation" FROM kbeC_ConnectorOptions WHERE "##OID"=2
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',"useBehRegSettings","regularize","defaultTolerance","regularization","defaultRateFactor","rateFactor","interpolation","useBehExtSettings","extrapolation") FROM kbeC_ConnectorOptions WHERE "##OID"=2
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 
 -- A damage that begins by the first and evolves by none, a term of a derived component that has
@@ -417,7 +417,7 @@ INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","##BaseClassOID","##Uid")
   VALUES(0,-1,x'08000000000000000004000000005EED');
 INSERT INTO "kbeC_ConnectorElasticity"("##OID","behavior","coupling","dependencies","temperatureDependency","frequencyDependency","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","components#ClassID","components#OID","options#ClassID","options#OID","##BaseClassOID","##Uid")
   VALUES(0,'LINEAR','UNCOUPLED',0,0,0,655374,0,2293761,0,2293761,1,44564542,2,0,x'09000000000000000004000000005EED');
--- after: SELECT "behavior"||' '||"coupling"||' '||"table#ClassID"||':'||"table#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID"||' '||"components#ClassID"||':'||"components#OID"||' '||"options#ClassID"||':'||"options#OID" FROM kbeC_ConnectorElasticity WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s:%s %s:%s %s:%s %s:%s',"behavior","coupling","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","components#ClassID","components#OID","options#ClassID","options#OID") FROM kbeC_ConnectorElasticity WHERE "##OID"=0
 -- is: LINEAR UNCOUPLED 655374:0 2293761:0 2293761:1 44564542:2
 -- 1, 2
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -443,10 +443,10 @@ INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClass
   VALUES(2,2293761,8,-1,x'12000000000000000004000000005EED');
 INSERT INTO "kbeC_CDCTerm"("##OID","termOperator","termSign","localDependency","indepCompType","tempDependency","fieldDependencies","intrinsicComponents#ClassID","intrinsicComponents#OID","indepComponents#ClassID","indepComponents#OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(1,'RSS','NEGATIVE',0,'POSITION',0,0,2293761,6,2293761,7,655374,2,-1,x'13000000000000000004000000005EED');
--- after: SELECT "termOperator"||' '||"termSign"||' '||"localDependency"||' '||"indepCompType"||' '||"tempDependency"||' '||"fieldDependencies"||' '||"intrinsicComponents#ClassID"||':'||"intrinsicComponents#OID"||' '||"indepComponents#ClassID"||':'||"indepComponents#OID"||' '||"table#ClassID"||':'||"table#OID"||' '||"options#ClassID"||':'||"options#OID" FROM kbeC_CDCTerm WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s:%s %s:%s %s:%s %s:%s',"termOperator","termSign","localDependency","indepCompType","tempDependency","fieldDependencies","intrinsicComponents#ClassID","intrinsicComponents#OID","indepComponents#ClassID","indepComponents#OID","table#ClassID","table#OID","options#ClassID","options#OID") FROM kbeC_CDCTerm WHERE "##OID"=0
 -- is: MACAULEY POSITIVE 0 POSITION 1 0 2293761:3 2293761:4 655374:1 44564542:1
 -- A term without options keeps having none.
--- after: SELECT "termOperator"||' '||"termSign"||' '||"intrinsicComponents#ClassID"||':'||"intrinsicComponents#OID"||' '||"indepComponents#ClassID"||':'||"indepComponents#OID"||' '||"table#ClassID"||':'||"table#OID"||' '||("options#OID" IS NULL) FROM kbeC_CDCTerm WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s:%s %s:%s %s:%s %s',"termOperator","termSign","intrinsicComponents#ClassID","intrinsicComponents#OID","indepComponents#ClassID","indepComponents#OID","table#ClassID","table#OID","options#OID" IS NULL) FROM kbeC_CDCTerm WHERE "##OID"=1
 -- is: RSS NEGATIVE 2293761:6 2293761:7 655374:2 1
 INSERT INTO "cls_ListEntry"("##OID","owner","value#ClassID","value#OID")
   VALUES(0,9,44564525,0);
@@ -469,7 +469,7 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(12,x'',1,54,x'1A000000000000000004000000005EED');
 INSERT INTO "kbeC_ConnectorFriction"("##OID","frictionModel","slipStyle","tangentDirection","stickStiffness","componentType","slipDependency","temperatureDependency","dependencies","useContactForceComponent","contactForceStyle","contactForceComponent","forcePotentialOperator","forcePotentialExponent","connectorPotentials#ClassID","connectorPotentials#OID","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","derivedComponent#ClassID","derivedComponent#OID","##BaseClassOID","##Uid")
   VALUES(0,'USER_CUSTOMIZED','SPECIFY',2,400000.0,'NO_INDEPENDENT_COMPONENTS',0,0,0,0,'COMPONENT_NUMBER',1,'SUM',2.0,2293761,10,655374,3,2293761,12,44564526,0,1,x'1B000000000000000004000000005EED');
--- after: SELECT "frictionModel"||' '||"tangentDirection"||' '||"contactForceComponent"||' '||"derivedComponent#ClassID"||':'||"derivedComponent#OID"||' '||("options#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s',"frictionModel","tangentDirection","contactForceComponent","derivedComponent#ClassID","derivedComponent#OID","options#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=0
 -- is: USER_CUSTOMIZED 2 1 44564526:0 1
 INSERT INTO "cls_List"("##OID","Target#Kind","#First","#Count","##Uid")
   VALUES(13,1,2,0,x'1C000000000000000004000000005EED');
@@ -494,7 +494,7 @@ INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","##BaseClassOID","##Uid")
   VALUES(2,-1,x'24000000000000000004000000005EED');
 INSERT INTO "kbeC_ConnectorDamage"("##OID","coupling","criterion","initiationTemperature","initiationPotentialOperator","initiationPotentialExponent","initiationDependencies","evolution","evolutionType","softening","useAffected","degradation","evolutionTemperature","evolutionDependencies","evolutionPotentialOperator","evolutionPotentialExponent","initiationPotentials#ClassID","initiationPotentials#OID","evolutionPotentials#ClassID","evolutionPotentials#OID","initiationTable#ClassID","initiationTable#OID","evolutionTable#ClassID","evolutionTable#OID","affectedComponents#ClassID","affectedComponents#OID","components#ClassID","components#OID","initiationOptions#ClassID","initiationOptions#OID","##BaseClassOID","##Uid")
   VALUES(0,'UNCOUPLED','PLASTIC_MOTION',0,'SUM',2.0,0,1,'MOTION_TYPE','LINEAR',0,'MAXIMUM',0,0,'SUM',2.0,2293761,13,2293761,14,655374,4,655374,5,2293761,15,2293761,16,44564542,0,2,x'25000000000000000004000000005EED');
--- after: SELECT "coupling"||' '||"criterion"||' '||"evolutionType"||' '||"initiationOptions#ClassID"||':'||"initiationOptions#OID"||' '||("evolutionOptions#OID" IS NULL) FROM kbeC_ConnectorDamage WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s',"coupling","criterion","evolutionType","initiationOptions#ClassID","initiationOptions#OID","evolutionOptions#OID" IS NULL) FROM kbeC_ConnectorDamage WHERE "##OID"=0
 -- is: UNCOUPLED PLASTIC_MOTION MOTION_TYPE 44564542:0 1
 -- after: SELECT count(*) FROM kbeC_ConnectorOptions
 -- is: 3
@@ -516,15 +516,15 @@ INSERT INTO "kmaC_Damping"("##OID","alpha","beta","composite","##BaseClassOID","
   VALUES(0,0.0,0.0,0.01,1,x'2B000000000000000004000000005EED');
 INSERT INTO "kmaC_Material"("##OID","damping#ClassID","damping#OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
   VALUES(0,37224469,0,37224508,0,-1,x'2C000000000000000004000000005EED');
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||"damping#ClassID"||':'||"damping#OID"||' '||("brittleCracking#OID" IS NULL)||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s:%s %s %s %s %s',"plastic#ClassID","plastic#OID","damping#ClassID","damping#OID","brittleCracking#OID" IS NULL,"mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224508:0 37224469:0 1 1 1 1
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
 -- is: 3 0000000000C07240000000000094D1400000000000A05640
--- after: SELECT "hardening"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"hardening","dataType","strainRangeDependency","numBackstresses","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=0
 -- is: COMBINED PARAMETERS 0 1 37224536:0
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Plastic') WHERE name IN ('gamma')
 -- is: 0
--- after: SELECT "alpha"||' '||"beta"||' '||"composite"||' '||"structural" FROM kmaC_Damping WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s',"alpha","beta","composite","structural") FROM kmaC_Damping WHERE "##OID"=0
 -- is: 0.0 0.0 0.01 0.0
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kmaC_Material','kmaC_Plastic','kmaC_Damping','kbeC_CDCTerm','kbeC_ConnectorOptions','kbeC_ConnectorFriction') ORDER BY ClassName
 -- is: kbeC_CDCTerm:1026 kbeC_ConnectorFriction:1022 kbeC_ConnectorOptions:1026 kmaC_Damping:1050 kmaC_Material:1106 kmaC_Plastic:1107

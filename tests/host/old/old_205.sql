@@ -845,13 +845,13 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(2,-1,x'0B00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","temperatureDependency","dependencies","hardening","rate","dataType","table#ClassID","table#OID","potential#ClassID","potential#OID","annealTemperature#ClassID","annealTemperature#OID","##BaseClassOID","##Uid")
   VALUES(0,1,0,'COMBINED',0,'PARAMETERS',37224536,2,37224514,0,37224561,0,2,x'0C00000000000000CD00000000005EED');
--- after: SELECT "hardening"||' '||"rate"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("rateDependent#OID" IS NULL)||' '||"potential#ClassID"||':'||"potential#OID"||' '||("cyclicHardening#OID" IS NULL)||' '||("ornl#OID" IS NULL)||' '||("cycledPlastic#OID" IS NULL)||' '||"annealTemperature#ClassID"||':'||"annealTemperature#OID" FROM kmaC_Plastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s %s %s:%s %s %s %s %s:%s',"hardening","rate","dataType","strainRangeDependency","numBackstresses","temperatureDependency","dependencies","table#ClassID","table#OID","rateDependent#OID" IS NULL,"potential#ClassID","potential#OID","cyclicHardening#OID" IS NULL,"ornl#OID" IS NULL,"cycledPlastic#OID" IS NULL,"annealTemperature#ClassID","annealTemperature#OID") FROM kmaC_Plastic WHERE "##OID"=0
 -- is: COMBINED 0 PARAMETERS 0 1 1 0 37224536:2 1 37224514:0 1 1 1 37224561:0
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
 -- is: 4 0000000000406F40000000000082D4400000000000005E400000000000003440000000000080664000000000004CCD400000000000005E400000000000007940
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Plastic') WHERE name IN ('gamma')
 -- is: 0
--- after: SELECT "dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_AnnealTemperature WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s',"dependencies","table#ClassID","table#OID") FROM kmaC_AnnealTemperature WHERE "##OID"=0
 -- is: 1 37224536:0
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_AnnealTemperature o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
 -- is: 2 000000000050844000000000000000000000000000E08540000000000000F03F
@@ -881,9 +881,9 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(4,-1,x'1300000000000000CD00000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","temperatureDependency","dependencies","hardening","rate","dataType","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(2,0,0,'COMBINED',0,'STABILIZED',37224536,4,4,x'1400000000000000CD00000000005EED');
--- after: SELECT "strainRangeDependency"||' '||"numBackstresses"||' '||"hardening"||' '||"dataType"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s:%s',"strainRangeDependency","numBackstresses","hardening","dataType","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=1
 -- is: 1 1 COMBINED STABILIZED 37224536:3
--- after: SELECT "strainRangeDependency"||' '||"numBackstresses"||' '||"hardening"||' '||"dataType"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=2
+-- after: SELECT printf('%s %s %s %s %s:%s',"strainRangeDependency","numBackstresses","hardening","dataType","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=2
 -- is: 0 1 COMBINED STABILIZED 37224536:4
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=1
 -- is: 3 0000000000004E4000000000000000007B14AE47E17A843F0000000000C05240FCA9F1D24D62603F7B14AE47E17A843F
@@ -899,7 +899,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(5,-1,x'1700000000000000CD00000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","temperatureDependency","dependencies","hardening","rate","dataType","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(3,1,1,'COMBINED',0,'STABILIZED',37224536,5,5,x'1800000000000000CD00000000005EED');
--- after: SELECT "strainRangeDependency"||' '||"numBackstresses"||' '||"hardening"||' '||"dataType"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=3
+-- after: SELECT printf('%s %s %s %s %s %s %s:%s',"strainRangeDependency","numBackstresses","hardening","dataType","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=3
 -- is: 0 1 COMBINED STABILIZED 1 1 37224536:5
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=3
 -- is: 4 000000000060734000000000000000000000000000003440000000000000F03F000000000040704000000000000000000000000000407F400000000000000040
@@ -919,11 +919,11 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(7,-1,x'1D00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","temperatureDependency","dependencies","hardening","rate","dataType","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(5,0,0,'COMBINED',0,'PARAMETERS',37224536,6,7,x'1E00000000000000CD00000000005EED');
--- after: SELECT "numBackstresses"||' '||"strainRangeDependency"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=4
+-- after: SELECT printf('%s %s %s:%s',"numBackstresses","strainRangeDependency","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=4
 -- is: 1 0 37224536:6
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=4
 -- is: 3 0000000000805640000000000040BF400000000000004440000000000040554000000000004CBD400000000000004440
--- after: SELECT "numBackstresses"||' '||"strainRangeDependency"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=5
+-- after: SELECT printf('%s %s %s:%s',"numBackstresses","strainRangeDependency","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=5
 -- is: 1 0 37224536:6
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=5
 -- is: 3 0000000000805640000000000040BF400000000000004440000000000040554000000000004CBD400000000000004440
@@ -948,7 +948,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(9,-1,x'2500000000000000CD00000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","temperatureDependency","dependencies","hardening","rate","dataType","table#ClassID","table#OID","rateDependent#ClassID","rateDependent#OID","##BaseClassOID","##Uid")
   VALUES(6,1,0,'ISOTROPIC',1,'PARAMETERS',37224536,7,37224515,0,9,x'2600000000000000CD00000000005EED');
--- after: SELECT "hardening"||' '||"rate"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"table#ClassID"||':'||"table#OID"||' '||"rateDependent#ClassID"||':'||"rateDependent#OID"||' '||("potential#OID" IS NULL) FROM kmaC_Plastic WHERE "##OID"=6
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s %s',"hardening","rate","dataType","strainRangeDependency","numBackstresses","table#ClassID","table#OID","rateDependent#ClassID","rateDependent#OID","potential#OID" IS NULL) FROM kmaC_Plastic WHERE "##OID"=6
 -- is: ISOTROPIC 1 PARAMETERS 0 1 37224536:7 37224515:0 1
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=6
 -- is: 4 0000000000406A400000000000000000000000000000000000000000000034400000000000407540333333333333C33F00000000000000000000000000003440
@@ -966,7 +966,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
 INSERT INTO "kmaC_Expansion"("##OID","temperatureDependency","dependencies","type","user","zero","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,1,0,'USER',0,20.0,37224536,9,10,x'2A00000000000000CD00000000005EED');
 -- The type "USER" became a flag, whatever the old flag said, which had gone by then.
--- after: SELECT "type"||' '||"userSubroutine"||' '||"zero"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Expansion WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"type","userSubroutine","zero","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Expansion WHERE "##OID"=0
 -- is: ISOTROPIC 1 20.0 1 0 37224536:9
 -- 1.6e-05, 1.7e-05, 2.1e-05
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -977,7 +977,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(11,-1,x'2D00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Expansion"("##OID","temperatureDependency","dependencies","type","user","zero","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(1,0,0,'ORTHOTROPIC',1,-40.0,37224536,10,11,x'2E00000000000000CD00000000005EED');
--- after: SELECT "type"||' '||"userSubroutine"||' '||"zero"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Expansion WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"type","userSubroutine","zero","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Expansion WHERE "##OID"=1
 -- is: ORTHOTROPIC 0 -40.0 0 0 37224536:10
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Expansion') WHERE name IN ('user')
 -- is: 0
@@ -985,7 +985,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(12,-1,x'2F00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Damping"("##OID","alpha","beta","composite","##BaseClassOID","##Uid")
   VALUES(0,4.5,0.00025,0.02,12,x'3000000000000000CD00000000005EED');
--- after: SELECT "alpha"||' '||"beta"||' '||"composite"||' '||"structural" FROM kmaC_Damping WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s',"alpha","beta","composite","structural") FROM kmaC_Damping WHERE "##OID"=0
 -- is: 4.5 0.00025 0.02 0.0
 -- 2.5e-10, 4, -0.2
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -996,13 +996,13 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(13,-1,x'3300000000000000CD00000000005EED');
 INSERT INTO "kmaC_Viscous"("##OID","law","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'TIME',0,0,37224536,11,13,x'3400000000000000CD00000000005EED');
--- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("potential#OID" IS NULL) FROM kmaC_Viscous WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s',"law","temperatureDependency","dependencies","table#ClassID","table#OID","potential#OID" IS NULL) FROM kmaC_Viscous WHERE "##OID"=0
 -- is: TIME 0 0 37224536:11 1
 INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(14,-1,x'3500000000000000CD00000000005EED');
 INSERT INTO "kmaC_Regularization"("##OID","rtol","rate","##BaseClassOID","##Uid")
   VALUES(0,0.05,'LINEAR',14,x'3600000000000000CD00000000005EED');
--- after: SELECT "rtol"||' '||"strainRateRegularization" FROM kmaC_Regularization WHERE "##OID"=0
+-- after: SELECT printf('%s %s',"rtol","strainRateRegularization") FROM kmaC_Regularization WHERE "##OID"=0
 -- is: 0.05 LINEAR
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Regularization') WHERE name IN ('rate')
 -- is: 0
@@ -1125,23 +1125,23 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(25,-1,x'6800000000000000CD00000000005EED');
 INSERT INTO "kmaC_CapCreep"("##OID","law","mechanism","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(3,'USER','COHESION',0,0,37224536,22,25,x'6900000000000000CD00000000005EED');
--- after: SELECT "table#ClassID"||':'||"table#OID"||' '||"capCreepCohesion#ClassID"||':'||"capCreepCohesion#OID"||' '||("capCreepConsolidation#OID" IS NULL)||' '||("capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=3
+-- after: SELECT printf('%s:%s %s:%s %s %s',"table#ClassID","table#OID","capCreepCohesion#ClassID","capCreepCohesion#OID","capCreepConsolidation#OID" IS NULL,"capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=3
 -- is: 37224536:19 37224574:1 1 1
--- after: SELECT "table#ClassID"||':'||"table#OID"||' '||("capCreepCohesion#OID" IS NULL)||' '||"capCreepConsolidation#ClassID"||':'||"capCreepConsolidation#OID"||' '||("capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=4
+-- after: SELECT printf('%s:%s %s %s:%s %s',"table#ClassID","table#OID","capCreepCohesion#OID" IS NULL,"capCreepConsolidation#ClassID","capCreepConsolidation#OID","capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=4
 -- is: 37224536:21 1 37224575:1 1
--- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_CapCreepCohesion WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s:%s',"law","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_CapCreepCohesion WHERE "##OID"=1
 -- is: SINGHM 1 2 37224536:12
--- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_CapCreepConsolidation WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s:%s',"law","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_CapCreepConsolidation WHERE "##OID"=1
 -- is: STRAIN 0 0 37224536:20
--- after: SELECT "temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||"capCreepCohesion#ClassID"||':'||"capCreepCohesion#OID"||' '||("capCreepConsolidation#OID" IS NULL)||' '||"capHardening#ClassID"||':'||"capHardening#OID" FROM kmaC_CapPlasticity WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s:%s %s:%s %s %s:%s',"temperatureDependency","dependencies","table#ClassID","table#OID","capCreepCohesion#ClassID","capCreepCohesion#OID","capCreepConsolidation#OID" IS NULL,"capHardening#ClassID","capHardening#OID") FROM kmaC_CapPlasticity WHERE "##OID"=0
 -- is: 0 0 37224536:14 37224574:0 1 37224459:0
--- after: SELECT "temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("capCreepCohesion#OID" IS NULL)||' '||"capCreepConsolidation#ClassID"||':'||"capCreepConsolidation#OID"||' '||("capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s:%s %s %s:%s %s',"temperatureDependency","dependencies","table#ClassID","table#OID","capCreepCohesion#OID" IS NULL,"capCreepConsolidation#ClassID","capCreepConsolidation#OID","capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=1
 -- is: 1 0 37224536:16 1 37224575:0 1
--- after: SELECT "temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("capCreepCohesion#OID" IS NULL)||' '||("capCreepConsolidation#OID" IS NULL)||' '||"capHardening#ClassID"||':'||"capHardening#OID" FROM kmaC_CapPlasticity WHERE "##OID"=2
+-- after: SELECT printf('%s %s %s:%s %s %s %s:%s',"temperatureDependency","dependencies","table#ClassID","table#OID","capCreepCohesion#OID" IS NULL,"capCreepConsolidation#OID" IS NULL,"capHardening#ClassID","capHardening#OID") FROM kmaC_CapPlasticity WHERE "##OID"=2
 -- is: 0 3 37224536:18 1 1 37224459:1
--- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_CapCreepCohesion WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"law","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_CapCreepCohesion WHERE "##OID"=0
 -- is: SINGHM 1 2 37224536:12
--- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_CapCreepConsolidation WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"law","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_CapCreepConsolidation WHERE "##OID"=0
 -- is: TIME 0 1 37224536:15
 -- after: SELECT "##BaseClassOID" FROM kmaC_CapCreepCohesion UNION ALL SELECT "##BaseClassOID" FROM kmaC_CapCreepConsolidation
 -- is: -1 -1 -1 -1
@@ -1169,7 +1169,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(27,-1,x'7000000000000000CD00000000005EED');
 INSERT INTO "kmaC_MohrCoulomb"("##OID","temperatureDependency","dependencies","table#ClassID","table#OID","mohrCoulombHardening#ClassID","mohrCoulombHardening#OID","deviatoricEccentricity","eccentricity","##BaseClassOID","##Uid")
   VALUES(0,0,0,37224536,24,37224566,0,0.6,0.15,27,x'7100000000000000CD00000000005EED');
--- after: SELECT "deviatoricEccentricity"||' '||"meridionalEccentricity"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||"mohrCoulombHardening#ClassID"||':'||"mohrCoulombHardening#OID" FROM kmaC_MohrCoulomb WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s %s:%s',"deviatoricEccentricity","meridionalEccentricity","temperatureDependency","dependencies","table#ClassID","table#OID","mohrCoulombHardening#ClassID","mohrCoulombHardening#OID") FROM kmaC_MohrCoulomb WHERE "##OID"=0
 -- is: 0.6 0.15 0 0 37224536:24 37224566:0
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_MohrCoulomb') WHERE name IN ('eccentricity')
 -- is: 0
@@ -1200,7 +1200,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(30,-1,x'7C00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Permeability"("##OID","temperatureDependency","specific","type","table#ClassID","table#OID","saturation#ClassID","saturation#OID","velocity#ClassID","velocity#OID","##BaseClassOID","##Uid")
   VALUES(0,0,9.81e-06,'ISOTROPIC',37224536,27,37224549,0,37224550,0,30,x'7D00000000000000CD00000000005EED');
--- after: SELECT "type"||' '||"specificWeight"||' '||"temperatureDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||"saturationDependence#ClassID"||':'||"saturationDependence#OID"||' '||"velocityDependence#ClassID"||':'||"velocityDependence#OID" FROM kmaC_Permeability WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s:%s %s:%s',"type","specificWeight","temperatureDependency","table#ClassID","table#OID","saturationDependence#ClassID","saturationDependence#OID","velocityDependence#ClassID","velocityDependence#OID") FROM kmaC_Permeability WHERE "##OID"=0
 -- is: ISOTROPIC 9.81e-06 0 37224536:27 37224549:0 37224550:0
 -- 2e-09, 1e-09, 2e-09, 0.9, 20
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1211,7 +1211,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(31,-1,x'8000000000000000CD00000000005EED');
 INSERT INTO "kmaC_Permeability"("##OID","temperatureDependency","specific","type","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(1,1,1e-05,'ORTHOTROPIC',37224536,28,31,x'8100000000000000CD00000000005EED');
--- after: SELECT "type"||' '||"specificWeight"||' '||"temperatureDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||("saturationDependence#OID" IS NULL)||' '||("velocityDependence#OID" IS NULL) FROM kmaC_Permeability WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s:%s %s %s',"type","specificWeight","temperatureDependency","table#ClassID","table#OID","saturationDependence#OID" IS NULL,"velocityDependence#OID" IS NULL) FROM kmaC_Permeability WHERE "##OID"=1
 -- is: ORTHOTROPIC 1.0e-05 1 37224536:28 1 1
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Permeability') WHERE name IN ('specific','saturation#ClassID','saturation#OID','velocity#ClassID','velocity#OID')
 -- is: 0
@@ -1284,17 +1284,17 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(37,-1,x'9E00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Hyperelastic"("##OID","temperatureDependency","n","type","beta","moduliTimeScale","properties","compressible","testData","table#ClassID","table#OID","biaxialTestData#ClassID","biaxialTestData#OID","planarTestData#ClassID","planarTestData#OID","uniaxialTestData#ClassID","uniaxialTestData#OID","volumetricTestData#ClassID","volumetricTestData#OID","hysteresis#ClassID","hysteresis#OID","##BaseClassOID","##Uid")
   VALUES(0,0,3,'OGDEN',1.7976931348623157e+308,'LONG_TERM',0,1,1,37224536,34,37224454,0,37224507,0,37224529,0,37224535,0,37224543,0,37,x'9F00000000000000CD00000000005EED');
--- after: SELECT "smoothing"||' '||"lateralNominalStrain"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_BiaxialTestData WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"smoothing","lateralNominalStrain","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_BiaxialTestData WHERE "##OID"=0
 -- is: 2147483647 0 0 0 37224536:29
--- after: SELECT "smoothing"||' '||"lateralNominalStrain"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_PlanarTestData WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"smoothing","lateralNominalStrain","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_PlanarTestData WHERE "##OID"=0
 -- is: 2147483647 0 0 0 37224536:30
--- after: SELECT "smoothing"||' '||"lateralNominalStrain"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_UniaxialTestData WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"smoothing","lateralNominalStrain","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_UniaxialTestData WHERE "##OID"=0
 -- is: 2147483647 0 0 0 37224536:31
--- after: SELECT "volinf"||' '||"smoothing"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_VolumetricTestData WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"volinf","smoothing","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_VolumetricTestData WHERE "##OID"=0
 -- is: 0.9 2147483647 0 0 37224536:32
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_VolumetricTestData') WHERE name IN ('lateralNominalStrain')
 -- is: 0
--- after: SELECT "type"||' '||"moduliTimeScale"||' '||"temperatureDependency"||' '||"n"||' '||("beta"=1.7976931348623157e308)||' '||"testData"||' '||"compressible"||' '||"properties"||' '||"deviatoricResponse"||' '||"volumetricResponse"||' '||"poissonRatio"||' '||"table#ClassID"||':'||"table#OID"||' '||"biaxialTestData#ClassID"||':'||"biaxialTestData#OID"||' '||"planarTestData#ClassID"||':'||"planarTestData#OID"||' '||"uniaxialTestData#ClassID"||':'||"uniaxialTestData#OID"||' '||"volumetricTestData#ClassID"||':'||"volumetricTestData#OID"||' '||"hysteresis#ClassID"||':'||"hysteresis#OID" FROM kmaC_Hyperelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s %s:%s %s:%s %s:%s',"type","moduliTimeScale","temperatureDependency","n","beta"=1.7976931348623157e308,"testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","biaxialTestData#ClassID","biaxialTestData#OID","planarTestData#ClassID","planarTestData#OID","uniaxialTestData#ClassID","uniaxialTestData#OID","volumetricTestData#ClassID","volumetricTestData#OID","hysteresis#ClassID","hysteresis#OID") FROM kmaC_Hyperelastic WHERE "##OID"=0
 -- is: OGDEN LONG_TERM 0 3 1 1 1 0 UNIAXIAL DEFAULT 0.0 37224536:34 37224454:0 37224507:0 37224529:0 37224535:0 37224543:0
 
 -- A neoprene by its coefficients, without a test: what was not referred to then is not now.
@@ -1307,7 +1307,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(38,-1,x'A200000000000000CD00000000005EED');
 INSERT INTO "kmaC_Hyperelastic"("##OID","temperatureDependency","n","type","beta","moduliTimeScale","properties","compressible","testData","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(1,0,1,'MOONEY_RIVLIN',1.7976931348623157e+308,'INSTANTANEOUS',0,0,0,37224536,35,38,x'A300000000000000CD00000000005EED');
--- after: SELECT "type"||' '||"moduliTimeScale"||' '||"n"||' '||"testData"||' '||"compressible"||' '||"deviatoricResponse"||' '||"volumetricResponse"||' '||"poissonRatio"||' '||"table#ClassID"||':'||"table#OID"||' '||("biaxialTestData#OID" IS NULL)||' '||("planarTestData#OID" IS NULL)||' '||("uniaxialTestData#OID" IS NULL)||' '||("volumetricTestData#OID" IS NULL)||' '||("hysteresis#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s:%s %s %s %s %s %s',"type","moduliTimeScale","n","testData","compressible","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","biaxialTestData#OID" IS NULL,"planarTestData#OID" IS NULL,"uniaxialTestData#OID" IS NULL,"volumetricTestData#OID" IS NULL,"hysteresis#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=1
 -- is: MOONEY_RIVLIN INSTANTANEOUS 1 0 0 UNIAXIAL DEFAULT 0.0 37224536:35 1 1 1 1 1
 
 -- The same neoprene relaxes. Each viscoelastic option gets a type, a preload and a volumetric
@@ -1339,7 +1339,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(41,-1,x'AE00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Viscoelastic"("##OID","domain","frequency","time","errtol","nmax","table#ClassID","table#OID","shearTestData#ClassID","shearTestData#OID","trs#ClassID","trs#OID","##BaseClassOID","##Uid")
   VALUES(0,'TIME','FORMULA','RELAXATION_TEST_DATA',0.02,8,37224536,38,37224519,0,37224528,0,41,x'AF00000000000000CD00000000005EED');
--- after: SELECT "domain"||' '||"frequency"||' '||"type"||' '||"preload"||' '||"time"||' '||"errtol"||' '||"nmax"||' '||"table#ClassID"||':'||"table#OID"||' '||("combinedTestData#OID" IS NULL)||' '||"shearTestData#ClassID"||':'||"shearTestData#OID"||' '||"trs#ClassID"||':'||"trs#OID"||' '||("volumetricTestData#OID" IS NULL) FROM kmaC_Viscoelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s %s %s:%s %s:%s %s',"domain","frequency","type","preload","time","errtol","nmax","table#ClassID","table#OID","combinedTestData#OID" IS NULL,"shearTestData#ClassID","shearTestData#OID","trs#ClassID","trs#OID","volumetricTestData#OID" IS NULL) FROM kmaC_Viscoelastic WHERE "##OID"=0
 -- is: TIME FORMULA ISOTROPIC NONE RELAXATION_TEST_DATA 0.02 8 37224536:38 1 37224519:0 37224528:0 1
 -- after: SELECT t.allowEmptyFirstRow||' '||length(l."Target#Handle")||' '||(v."volumetricTable#ClassID"=0x2380058)||' '||(v."volumetricTable#OID"<>v."table#OID") FROM kmaC_Viscoelastic v JOIN kmaC_MaterialTable t ON t."##OID"=v."volumetricTable#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE v."##OID"=0
 -- is: 1 0 1 1
@@ -1372,9 +1372,9 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(44,-1,x'BA00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Hyperfoam"("##OID","testData","poisson","n","temperatureDependency","moduli","table#ClassID","table#OID","volumetricTestData#ClassID","volumetricTestData#OID","simpleShearTestData#ClassID","simpleShearTestData#OID","uniaxialTestData#ClassID","uniaxialTestData#OID","##BaseClassOID","##Uid")
   VALUES(0,1,0.0,2,0,'LONG_TERM',37224536,41,37224535,0,37224520,0,37224529,1,44,x'BB00000000000000CD00000000005EED');
--- after: SELECT "testData"||' '||"poisson"||' '||"n"||' '||"temperatureDependency"||' '||"moduli"||' '||"table#ClassID"||':'||"table#OID"||' '||("biaxialTestData#OID" IS NULL)||' '||"volumetricTestData#ClassID"||':'||"volumetricTestData#OID"||' '||("planarTestData#OID" IS NULL)||' '||"simpleShearTestData#ClassID"||':'||"simpleShearTestData#OID"||' '||"uniaxialTestData#ClassID"||':'||"uniaxialTestData#OID" FROM kmaC_Hyperfoam WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s %s:%s %s %s:%s %s:%s',"testData","poisson","n","temperatureDependency","moduli","table#ClassID","table#OID","biaxialTestData#OID" IS NULL,"volumetricTestData#ClassID","volumetricTestData#OID","planarTestData#OID" IS NULL,"simpleShearTestData#ClassID","simpleShearTestData#OID","uniaxialTestData#ClassID","uniaxialTestData#OID") FROM kmaC_Hyperfoam WHERE "##OID"=0
 -- is: 1 0.0 2 0 LONG_TERM 37224536:41 1 37224535:0 1 37224520:0 37224529:1
--- after: SELECT "smoothing"||' '||"lateralNominalStrain"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_UniaxialTestData WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s:%s',"smoothing","lateralNominalStrain","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_UniaxialTestData WHERE "##OID"=1
 -- is: 2147483647 0 0 0 37224536:40
 -- after: SELECT count(*) FROM kmaC_VolumetricTestData
 -- is: 1
@@ -1406,7 +1406,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(46,-1,x'C500000000000000CD00000000005EED');
 INSERT INTO "kmaC_BrittleCracking"("##OID","temperatureDependency","dependencies","type","table#ClassID","table#OID","brittleShear#ClassID","brittleShear#OID","##BaseClassOID","##Uid")
   VALUES(0,0,0,'STRAIN',37224536,43,37224456,0,46,x'C600000000000000CD00000000005EED');
--- after: SELECT "temperatureDependency"||' '||"dependencies"||' '||"type"||' '||"table#ClassID"||':'||"table#OID"||' '||"brittleShear#ClassID"||':'||"brittleShear#OID"||' '||("brittleFailure#OID" IS NULL) FROM kmaC_BrittleCracking WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s:%s %s',"temperatureDependency","dependencies","type","table#ClassID","table#OID","brittleShear#ClassID","brittleShear#OID","brittleFailure#OID" IS NULL) FROM kmaC_BrittleCracking WHERE "##OID"=0
 -- is: 0 0 STRAIN 37224536:43 37224456:0 1
 -- 2.4e-09
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1419,7 +1419,7 @@ INSERT INTO "kmaC_Density"("##OID","temperatureDependency","dependencies","table
   VALUES(0,0,0,37224536,44,47,x'CA00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Material"("##OID","brittleCracking#ClassID","brittleCracking#OID","density#ClassID","density#OID","##BaseClassOID","##Uid")
   VALUES(16,37224455,0,37224471,0,-1,x'CB00000000000000CD00000000005EED');
--- after: SELECT ("brittleCracking#OID" IS NULL)||' '||"density#ClassID"||':'||"density#OID"||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=16
+-- after: SELECT printf('%s %s:%s %s %s',"brittleCracking#OID" IS NULL,"density#ClassID","density#OID","description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=16
 -- is: 1 37224471:0 1 1
 
 -- An explosive by the expansion of its products, with its detonation point; and water by shock
@@ -1460,9 +1460,9 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(51,-1,x'DA00000000000000CD00000000005EED');
 INSERT INTO "kmaC_Eos"("##OID","type","table#ClassID","table#OID","eosShear#ClassID","eosShear#OID","##BaseClassOID","##Uid")
   VALUES(1,'USUP',37224536,48,37224544,0,51,x'DB00000000000000CD00000000005EED');
--- after: SELECT "type"||' '||"table#ClassID"||':'||"table#OID"||' '||"detonationPoint#ClassID"||':'||"detonationPoint#OID"||' '||("eosShear#OID" IS NULL)||' '||("eosCompaction#OID" IS NULL) FROM kmaC_Eos WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s %s:%s %s %s',"type","table#ClassID","table#OID","detonationPoint#ClassID","detonationPoint#OID","eosShear#OID" IS NULL,"eosCompaction#OID" IS NULL) FROM kmaC_Eos WHERE "##OID"=0
 -- is: JWL 37224536:46 37224545:0 1 1
--- after: SELECT "type"||' '||"table#ClassID"||':'||"table#OID"||' '||("detonationPoint#OID" IS NULL)||' '||"eosShear#ClassID"||':'||"eosShear#OID"||' '||("eosCompaction#OID" IS NULL) FROM kmaC_Eos WHERE "##OID"=1
+-- after: SELECT printf('%s %s:%s %s %s:%s %s',"type","table#ClassID","table#OID","detonationPoint#OID" IS NULL,"eosShear#ClassID","eosShear#OID","eosCompaction#OID" IS NULL) FROM kmaC_Eos WHERE "##OID"=1
 -- is: USUP 37224536:48 1 37224544:0 1
 -- The hydraulic fluids of the first archive have no place in a material any more; their rows stay.
 INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
@@ -1484,7 +1484,7 @@ INSERT INTO "kmaC_Material"("##OID","eos#ClassID","eos#OID","fluidBulkModulus#Cl
   VALUES(18,37224480,1,37224487,0,37224488,0,-1,x'E300000000000000CD00000000005EED');
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Material') WHERE name IN ('fluidDensity#OID','fluidBulkModulus#OID','fluidExpansion#OID','jointedMaterial#OID')
 -- is: 0
--- after: SELECT "temperature"||' '||"pressure"||' '||"density" FROM kmaC_FluidDensity WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s',"temperature","pressure","density") FROM kmaC_FluidDensity WHERE "##OID"=0
 -- is: 20.0 0.1 9.98e-10
 
 -- A piezoelectric ceramic by stress coefficients, a gasket of force over closure with its contact
@@ -1499,7 +1499,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(54,-1,x'E600000000000000CD00000000005EED');
 INSERT INTO "kmaC_Piezoelectric"("##OID","type","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'STRESS',37224536,50,54,x'E700000000000000CD00000000005EED');
--- after: SELECT "type"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Piezoelectric WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"type","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Piezoelectric WHERE "##OID"=0
 -- is: STRESS 0 0 37224536:50
 -- 3.2, 0; 4.1, 0.4
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1524,7 +1524,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(56,-1,x'F000000000000000CD00000000005EED');
 INSERT INTO "kmaC_ThicknessBehavior"("##OID","temperatureDependency","dependencies","type","tensileStiffnessFactor","units","yieldOnsetMethod","yieldOnset","table#ClassID","table#OID","contactArea#ClassID","contactArea#OID","unloadingTemperatureDependency","unloadingDependencies","unloadingTable#ClassID","unloadingTable#OID","##BaseClassOID","##Uid")
   VALUES(0,0,0,'ELASTIC_PLASTIC',0.002,'FORCE','CLOSURE_VALUE',0.12,37224536,52,37224542,0,0,0,37224536,53,56,x'F100000000000000CD00000000005EED');
--- after: SELECT "temperatureDependency"||' '||"dependencies"||' '||"tensileStiffnessFactor"||' '||"type"||' '||"unloadingDependencies"||' '||"unloadingTemperatureDependency"||' '||"variableUnits"||' '||"yieldOnset"||' '||"yieldOnsetMethod"||' '||"table#ClassID"||':'||"table#OID"||' '||"unloadingTable#ClassID"||':'||"unloadingTable#OID"||' '||"contactArea#ClassID"||':'||"contactArea#OID" FROM kmaC_ThicknessBehavior WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s',"temperatureDependency","dependencies","tensileStiffnessFactor","type","unloadingDependencies","unloadingTemperatureDependency","variableUnits","yieldOnset","yieldOnsetMethod","table#ClassID","table#OID","unloadingTable#ClassID","unloadingTable#OID","contactArea#ClassID","contactArea#OID") FROM kmaC_ThicknessBehavior WHERE "##OID"=0
 -- is: 0 0 0.002 ELASTIC_PLASTIC 0 0 FORCE 0.12 CLOSURE_VALUE 37224536:52 37224536:53 37224542:0
 -- 36, 20; 29, 150
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1535,7 +1535,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(57,-1,x'F400000000000000CD00000000005EED');
 INSERT INTO "kmaC_TransShearElastic"("##OID","temperatureDependency","dependencies","units","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,1,0,'FORCE',37224536,54,57,x'F500000000000000CD00000000005EED');
--- after: SELECT "variableUnits"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_TransShearElastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"variableUnits","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_TransShearElastic WHERE "##OID"=0
 -- is: FORCE 1 0 37224536:54
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_ThicknessBehavior') WHERE name IN ('units')
 -- is: 0
@@ -1554,7 +1554,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(58,-1,x'FA00000000000000CD00000000005EED');
 INSERT INTO "kmaC_UserMaterial"("##OID","constants","type","unsymm","mechanicalTable#ClassID","mechanicalTable#OID","thermalTable#ClassID","thermalTable#OID","##BaseClassOID","##Uid")
   VALUES(0,3,'MECHANICAL',1,37224536,55,37224536,56,58,x'FB00000000000000CD00000000005EED');
--- after: SELECT "type"||' '||"unsymm"||' '||"mechanicalConstants#ClassID"||':'||"mechanicalConstants#OID"||' '||"thermalConstants#ClassID"||':'||"thermalConstants#OID" FROM kmaC_UserMaterial WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s:%s %s:%s',"type","unsymm","mechanicalConstants#ClassID","mechanicalConstants#OID","thermalConstants#ClassID","thermalConstants#OID") FROM kmaC_UserMaterial WHERE "##OID"=0
 -- is: MECHANICAL 1 2293761:55 2293761:56
 -- after: SELECT hex("Target#Handle") FROM cls_List WHERE "##OID"=55
 -- is: 000000000017F1401F85EB51B81ED53F0000000000005E40
@@ -1570,7 +1570,7 @@ INSERT INTO "kmaC_Material"("##OID","userMaterial#ClassID","userMaterial#OID","#
 -- A material card that was opened and never filled.
 INSERT INTO "kmaC_Material"("##OID","##BaseClassOID","##Uid")
   VALUES(22,-1,x'FF00000000000000CD00000000005EED');
--- after: SELECT ("elastic#OID" IS NULL)||' '||("plastic#OID" IS NULL)||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=22
+-- after: SELECT printf('%s %s %s %s %s',"elastic#OID" IS NULL,"plastic#OID" IS NULL,"mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=22
 -- is: 1 1 1 1 1
 
 -- Load histories. Their kind of definition and of value fell away; the time became the time span.
@@ -1587,7 +1587,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","time","value","##BaseClassOID
   VALUES(0,'TABULAR','TOTAL','RELATIVE',-1,x'0301000000000000CD00000000005EED');
 INSERT INTO "kamC_Tabular"("##OID","smooth","table#ClassID","table#OID","baselineCorrection#ClassID","baselineCorrection#OID","##BaseClassOID","##Uid")
   VALUES(0,0.25,2293761,58,38010881,0,0,x'0401000000000000CD00000000005EED');
--- after: SELECT "smooth"||' '||"data#ClassID"||':'||"data#OID"||' '||"baselineCorrection#ClassID"||':'||"baselineCorrection#OID" FROM kamC_Tabular WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s %s:%s',"smooth","data#ClassID","data#OID","baselineCorrection#ClassID","baselineCorrection#OID") FROM kamC_Tabular WHERE "##OID"=0
 -- is: 0.25 2293761:58 38010881:0
 -- 0, 0.12, -0.31, 0.08
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1596,7 +1596,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","time","value","##BaseClassOID
   VALUES(1,'EQUALLY SPACED','STEP','ABSOLUTE',-1,x'0601000000000000CD00000000005EED');
 INSERT INTO "kamC_EquallySpaced"("##OID","smooth","fixedInterval","begin","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,1.7976931348623157e+308,0.02,1.5,2293761,59,1,x'0701000000000000CD00000000005EED');
--- after: SELECT "fixedInterval"||' '||"begin"||' '||("smooth"=1.7976931348623157e308)||' '||"data#ClassID"||':'||"data#OID"||' '||("baselineCorrection#OID" IS NULL) FROM kamC_EquallySpaced WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s',"fixedInterval","begin","smooth"=1.7976931348623157e308,"data#ClassID","data#OID","baselineCorrection#OID" IS NULL) FROM kamC_EquallySpaced WHERE "##OID"=0
 -- is: 0.02 1.5 1 2293761:59 1
 -- 1, 0; 0, 0.5
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1605,7 +1605,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","time","value","##BaseClassOID
   VALUES(2,'PERIODIC','STEP','RELATIVE',-1,x'0901000000000000CD00000000005EED');
 INSERT INTO "kamC_Periodic"("##OID","frequency","start","a_0","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,157.08,0.1,0.2,2293761,60,2,x'0A01000000000000CD00000000005EED');
--- after: SELECT "frequency"||' '||"start"||' '||"a_0"||' '||"data#ClassID"||':'||"data#OID" FROM kamC_Periodic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"frequency","start","a_0","data#ClassID","data#OID") FROM kamC_Periodic WHERE "##OID"=0
 -- is: 157.08 0.1 0.2 2293761:60
 -- 0, 0; 0.001, 1
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1614,13 +1614,13 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","time","value","##BaseClassOID
   VALUES(3,'SMOOTH STEP','TOTAL','RELATIVE',-1,x'0C01000000000000CD00000000005EED');
 INSERT INTO "kamC_SmoothStep"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,2293761,61,3,x'0D01000000000000CD00000000005EED');
--- after: SELECT "data#ClassID"||':'||"data#OID" FROM kamC_SmoothStep WHERE "##OID"=0
+-- after: SELECT printf('%s:%s',"data#ClassID","data#OID") FROM kamC_SmoothStep WHERE "##OID"=0
 -- is: 2293761:61
 INSERT INTO "kamC_Amplitude"("##OID","definition","time","value","##BaseClassOID","##Uid")
   VALUES(4,'DECAY','STEP','RELATIVE',-1,x'0E01000000000000CD00000000005EED');
 INSERT INTO "kamC_Decay"("##OID","initial","maximum","start","decayTime","##BaseClassOID","##Uid")
   VALUES(0,0.0,2.0,0.0,0.4,4,x'0F01000000000000CD00000000005EED');
--- after: SELECT "initial"||' '||"maximum"||' '||"start"||' '||"decayTime" FROM kamC_Decay WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s',"initial","maximum","start","decayTime") FROM kamC_Decay WHERE "##OID"=0
 -- is: 0.0 2.0 0.0 0.4
 -- after: SELECT timeSpan FROM kamC_Amplitude ORDER BY "##OID"
 -- is: TOTAL STEP STEP TOTAL STEP
@@ -1647,7 +1647,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(0,-1,x'1101000000000000CD00000000005EED');
 INSERT INTO "kbpC_BoxProfile"("##OID","height","width","tempThick#ClassID","tempThick#OID","uniform","##BaseClassOID","##Uid")
   VALUES(0,600.0,300.0,2293761,62,0,0,x'1201000000000000CD00000000005EED');
--- after: SELECT "a"||' '||"b"||' '||"uniformThickness"||' '||"t1"||' '||"t2"||' '||"t3"||' '||"t4" FROM kbpC_BoxProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s',"a","b","uniformThickness","t1","t2","t3","t4") FROM kbpC_BoxProfile WHERE "##OID"=0
 -- is: 300.0 600.0 0 8.0 10.0 12.0 10.0
 -- 6.3, 6.3, 6.3, 6.3
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -1656,7 +1656,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(1,-1,x'1401000000000000CD00000000005EED');
 INSERT INTO "kbpC_BoxProfile"("##OID","height","width","tempThick#ClassID","tempThick#OID","uniform","##BaseClassOID","##Uid")
   VALUES(1,120.0,80.0,2293761,63,1,1,x'1501000000000000CD00000000005EED');
--- after: SELECT "a"||' '||"b"||' '||"uniformThickness"||' '||"t1"||' '||"t2"||' '||"t3"||' '||"t4" FROM kbpC_BoxProfile WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s',"a","b","uniformThickness","t1","t2","t3","t4") FROM kbpC_BoxProfile WHERE "##OID"=1
 -- is: 80.0 120.0 1 6.3 6.3 6.3 6.3
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_BoxProfile') WHERE name IN ('height','width','uniform','tempThick#OID')
 -- is: 0
@@ -1664,7 +1664,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(2,-1,x'1601000000000000CD00000000005EED');
 INSERT INTO "kbpC_PipeProfile"("##OID","radius","thickness","##BaseClassOID","##Uid")
   VALUES(0,84.15,8.0,2,x'1701000000000000CD00000000005EED');
--- after: SELECT "r"||' '||"t" FROM kbpC_PipeProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s',"r","t") FROM kbpC_PipeProfile WHERE "##OID"=0
 -- is: 84.15 8.0
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_PipeProfile') WHERE name IN ('radius','thickness')
 -- is: 0
@@ -1672,7 +1672,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(3,-1,x'1801000000000000CD00000000005EED');
 INSERT INTO "kbpC_IbeamProfile"("##OID","l","h","b1","b2","t1","t2","t3","integration","##BaseClassOID","##Uid")
   VALUES(0,150.0,300.0,150.0,150.0,10.7,10.7,7.1,1,3,x'1901000000000000CD00000000005EED');
--- after: SELECT "l"||' '||"h"||' '||"b1"||' '||"b2"||' '||"t1"||' '||"t2"||' '||"t3" FROM kbpC_IbeamProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s',"l","h","b1","b2","t1","t2","t3") FROM kbpC_IbeamProfile WHERE "##OID"=0
 -- is: 150.0 300.0 150.0 150.0 10.7 10.7 7.1
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_IbeamProfile') WHERE name IN ('integration')
 -- is: 0
@@ -1680,7 +1680,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(4,-1,x'1A01000000000000CD00000000005EED');
 INSERT INTO "kbpC_GeneralizedProfile"("##OID","linearBehavior","area","i11","i12","i22","jTorsion","gammaO","gammaW","##BaseClassOID","##Uid")
   VALUES(0,1,310000.0,84000000000.0,0.0,1200000000000.0,26000000000.0,0.5,0.25,4,x'1B01000000000000CD00000000005EED');
--- after: SELECT "area"||' '||"i11"||' '||"i12"||' '||"i22"||' '||"j"||' '||"gammaO"||' '||"gammaW" FROM kbpC_GeneralizedProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s',"area","i11","i12","i22","j","gammaO","gammaW") FROM kbpC_GeneralizedProfile WHERE "##OID"=0
 -- is: 310000.0 84000000000.0 0.0 1200000000000.0 26000000000.0 0.5 0.25
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_GeneralizedProfile') WHERE name IN ('linearBehavior','jTorsion')
 -- is: 0
@@ -1724,47 +1724,47 @@ INSERT INTO "kbpC_ArbitraryProfile"("##OID","x#ClassID","x#OID","y#ClassID","y#O
 -- is: kamC_Amplitude:430 kamC_EquallySpaced:424 kamC_Periodic:424 kamC_SmoothStep:424 kamC_Tabular:424 kbpC_ArbitraryProfile:505 kbpC_BoxProfile:430 kbpC_GeneralizedProfile:430 kbpC_IbeamProfile:430 kbpC_PipeProfile:406
 
 -- The materials themselves refer to the options that they had, and have got two empty texts.
--- after: SELECT "expansion#ClassID"||':'||"expansion#OID"||' '||"damping#ClassID"||':'||"damping#OID"||' '||"regularization#ClassID"||':'||"regularization#OID"||' '||"viscous#ClassID"||':'||"viscous#OID"||' '||"plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s:%s %s:%s %s:%s %s:%s %s %s %s',"expansion#ClassID","expansion#OID","damping#ClassID","damping#OID","regularization#ClassID","regularization#OID","viscous#ClassID","viscous#OID","plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224481:0 37224469:0 37224546:0 37224560:0 37224508:0 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||"expansion#ClassID"||':'||"expansion#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"plastic#ClassID","plastic#OID","expansion#ClassID","expansion#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224508:1 37224481:1 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
 -- is: 37224508:2 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=3
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=3
 -- is: 37224508:6 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=4
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=4
 -- is: 37224508:3 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=5
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=5
 -- is: 37224508:4 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=6
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=6
 -- is: 37224508:5 1 1 1
--- after: SELECT "capPlasticity#ClassID"||':'||"capPlasticity#OID"||' '||"permeability#ClassID"||':'||"permeability#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=7
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"capPlasticity#ClassID","capPlasticity#OID","permeability#ClassID","permeability#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=7
 -- is: 37224460:0 37224505:1 1 1 1
--- after: SELECT "capPlasticity#ClassID"||':'||"capPlasticity#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=8
+-- after: SELECT printf('%s:%s %s %s %s',"capPlasticity#ClassID","capPlasticity#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=8
 -- is: 37224460:1 1 1 1
--- after: SELECT "capPlasticity#ClassID"||':'||"capPlasticity#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=9
+-- after: SELECT printf('%s:%s %s %s %s',"capPlasticity#ClassID","capPlasticity#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=9
 -- is: 37224460:2 1 1 1
--- after: SELECT "capPlasticity#ClassID"||':'||"capPlasticity#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=10
+-- after: SELECT printf('%s:%s %s %s %s',"capPlasticity#ClassID","capPlasticity#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=10
 -- is: 37224460:3 1 1 1
--- after: SELECT "capPlasticity#ClassID"||':'||"capPlasticity#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=11
+-- after: SELECT printf('%s:%s %s %s %s',"capPlasticity#ClassID","capPlasticity#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=11
 -- is: 37224460:4 1 1 1
--- after: SELECT "mohrCoulomb#ClassID"||':'||"mohrCoulomb#OID"||' '||"permeability#ClassID"||':'||"permeability#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=12
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"mohrCoulomb#ClassID","mohrCoulomb#OID","permeability#ClassID","permeability#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=12
 -- is: 37224565:0 37224505:0 1 1 1
--- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=13
+-- after: SELECT printf('%s:%s %s %s %s',"hyperelastic#ClassID","hyperelastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=13
 -- is: 37224494:0 1 1 1
--- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||"viscoelastic#ClassID"||':'||"viscoelastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=14
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"hyperelastic#ClassID","hyperelastic#OID","viscoelastic#ClassID","viscoelastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=14
 -- is: 37224494:1 37224533:0 1 1 1
--- after: SELECT "hyperfoam#ClassID"||':'||"hyperfoam#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=15
+-- after: SELECT printf('%s:%s %s %s %s',"hyperfoam#ClassID","hyperfoam#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=15
 -- is: 37224495:0 1 1 1
--- after: SELECT "eos#ClassID"||':'||"eos#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=17
+-- after: SELECT printf('%s:%s %s %s %s',"eos#ClassID","eos#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=17
 -- is: 37224480:0 1 1 1
--- after: SELECT "eos#ClassID"||':'||"eos#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=18
+-- after: SELECT printf('%s:%s %s %s %s',"eos#ClassID","eos#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=18
 -- is: 37224480:1 1 1 1
--- after: SELECT "piezoelectric#ClassID"||':'||"piezoelectric#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=19
+-- after: SELECT printf('%s:%s %s %s %s',"piezoelectric#ClassID","piezoelectric#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=19
 -- is: 37224506:0 1 1 1
--- after: SELECT "thicknessBehavior#ClassID"||':'||"thicknessBehavior#OID"||' '||"transShearElastic#ClassID"||':'||"transShearElastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=20
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"thicknessBehavior#ClassID","thicknessBehavior#OID","transShearElastic#ClassID","transShearElastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=20
 -- is: 37224541:0 37224540:0 1 1 1
--- after: SELECT "userMaterial#ClassID"||':'||"userMaterial#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=21
+-- after: SELECT printf('%s:%s %s %s %s',"userMaterial#ClassID","userMaterial#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=21
 -- is: 37224531:0 1 1 1
 
 -- The materials by name.

@@ -340,13 +340,13 @@ INSERT INTO "kmaC_Material"("##OID","density#ClassID","density#OID","elastic#Cla
   VALUES(0,37224471,0,37224478,0,37224508,0,-1,x'0D000000000000000401000000005EED');
 INSERT INTO "kmaC_Material"("##OID","density#ClassID","density#OID","elastic#ClassID","elastic#OID","##BaseClassOID","##Uid")
   VALUES(1,37224471,0,37224478,0,-1,x'0E000000000000000401000000005EED');
--- after: SELECT "type"||' '||"noCompression"||' '||"noTension"||' '||"temperatureDependency"||' '||"dependencies"||' '||"moduli"||' '||"table#ClassID"||':'||"table#OID"||' '||("failStress#OID" IS NULL)||' '||("failStrain#OID" IS NULL) FROM kmaC_Elastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s:%s %s %s',"type","noCompression","noTension","temperatureDependency","dependencies","moduli","table#ClassID","table#OID","failStress#OID" IS NULL,"failStrain#OID" IS NULL) FROM kmaC_Elastic WHERE "##OID"=0
 -- is: ISOTROPIC 0 0 0 0 LONG_TERM 37224536:0 1 1
--- after: SELECT "elastic#ClassID"||':'||"elastic#OID"||' '||"density#ClassID"||':'||"density#OID"||' '||"plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("fluidLeakoff#OID" IS NULL)||' '||("ductileDamageInitiation#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s:%s %s:%s %s %s %s %s %s',"elastic#ClassID","elastic#OID","density#ClassID","density#OID","plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"fluidLeakoff#OID" IS NULL,"ductileDamageInitiation#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224478:0 37224471:0 37224508:0 1 1 1 1 1
--- after: SELECT "elastic#ClassID"||':'||"elastic#OID"||' '||"density#ClassID"||':'||"density#OID"||' '||("plastic#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"elastic#ClassID","elastic#OID","density#ClassID","density#OID","plastic#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224478:0 37224471:0 1 1 1
--- after: SELECT "hardening"||' '||"rate"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s',"hardening","rate","dataType","strainRangeDependency","numBackstresses","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=0
 -- is: KINEMATIC 0 HALF_CYCLE 0 1 0 0 37224536:2
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
 -- is: 2 0000000000804140000000000000000000000000000054409A9999999999C93F
@@ -377,11 +377,11 @@ INSERT INTO "kmaC_Damping"("##OID","alpha","beta","composite","##BaseClassOID","
   VALUES(0,0.0,1e-05,0.0,5,x'18000000000000000401000000005EED');
 INSERT INTO "kmaC_Material"("##OID","brittleCracking#ClassID","brittleCracking#OID","damping#ClassID","damping#OID","fluidBulkModulus#ClassID","fluidBulkModulus#OID","##BaseClassOID","##Uid")
   VALUES(2,37224455,0,37224469,0,37224487,0,-1,x'19000000000000000401000000005EED');
--- after: SELECT ("brittleCracking#OID" IS NULL)||' '||"damping#ClassID"||':'||"damping#OID"||' '||("elastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=2
+-- after: SELECT printf('%s %s:%s %s',"brittleCracking#OID" IS NULL,"damping#ClassID","damping#OID","elastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=2
 -- is: 1 37224469:0 1
--- after: SELECT "type"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("brittleShear#OID" IS NULL)||' '||("brittleFailure#OID" IS NULL) FROM kmaC_BrittleCracking WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s %s',"type","temperatureDependency","dependencies","table#ClassID","table#OID","brittleShear#OID" IS NULL,"brittleFailure#OID" IS NULL) FROM kmaC_BrittleCracking WHERE "##OID"=0
 -- is: DISPLACEMENT 0 0 37224536:3 1 1
--- after: SELECT "alpha"||' '||"beta"||' '||"composite"||' '||"structural" FROM kmaC_Damping WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s',"alpha","beta","composite","structural") FROM kmaC_Damping WHERE "##OID"=0
 -- is: 0.0 1.0e-05 0.0 0.0
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Material') WHERE name IN ('fluidBulkModulus#ClassID','fluidBulkModulus#OID')
 -- is: 0
@@ -395,7 +395,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","time","##BaseClassOID","##Uid
   VALUES(0,'TABULAR','TOTAL',-1,x'1B000000000000000401000000005EED');
 INSERT INTO "kamC_Tabular"("##OID","smooth","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,1.7976931348623157e+308,2293761,5,0,x'1C000000000000000401000000005EED');
--- after: SELECT ("smooth"=1.7976931348623157e308)||' '||"data#ClassID"||':'||"data#OID"||' '||("baselineCorrection#OID" IS NULL) FROM kamC_Tabular WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s %s',"smooth"=1.7976931348623157e308,"data#ClassID","data#OID","baselineCorrection#OID" IS NULL) FROM kamC_Tabular WHERE "##OID"=0
 -- is: 1 2293761:5 1
 -- 0, 1; 2, 0
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -404,7 +404,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","time","##BaseClassOID","##Uid
   VALUES(1,'SMOOTH STEP',NULL,-1,x'1E000000000000000401000000005EED');
 INSERT INTO "kamC_SmoothStep"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,2293761,6,1,x'1F000000000000000401000000005EED');
--- after: SELECT "data#ClassID"||':'||"data#OID" FROM kamC_SmoothStep WHERE "##OID"=0
+-- after: SELECT printf('%s:%s',"data#ClassID","data#OID") FROM kamC_SmoothStep WHERE "##OID"=0
 -- is: 2293761:6
 -- after: SELECT timeSpan FROM kamC_Amplitude ORDER BY "##OID"
 -- is: TOTAL STEP

@@ -341,17 +341,17 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(2,-1,x'0B000000000000004401000000005EED');
 INSERT INTO "kmaC_Hyperelastic"("##OID","temperatureDependency","n","type","beta","moduliTimeScale","properties","compressible","testData","table#ClassID","table#OID","uniaxialTestData#ClassID","uniaxialTestData#OID","volumetricTestData#ClassID","volumetricTestData#OID","deviatoricResponse","volumetricResponse","poissonRatio","##BaseClassOID","##Uid")
   VALUES(0,1,1,'MARLOW',1.7976931348623157e+308,'LONG_TERM',0,1,1,37224536,2,37224529,0,37224535,0,'BIAXIAL','VOLUMETRIC_DATA',0.475,2,x'0C000000000000004401000000005EED');
--- after: SELECT "volinf"||' '||"smoothing"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_VolumetricTestData WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"volinf","smoothing","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_VolumetricTestData WHERE "##OID"=0
 -- is: 0.88 2147483647 1 0 37224536:0
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_VolumetricTestData') WHERE name IN ('lateralNominalStrain')
 -- is: 0
--- after: SELECT "smoothing"||' '||"lateralNominalStrain"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_UniaxialTestData WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"smoothing","lateralNominalStrain","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_UniaxialTestData WHERE "##OID"=0
 -- is: 5 1 0 0 37224536:1
--- after: SELECT "type"||' '||"moduliTimeScale"||' '||"temperatureDependency"||' '||"n"||' '||("beta"=1.7976931348623157e308)||' '||"testData"||' '||"compressible"||' '||"properties"||' '||"deviatoricResponse"||' '||"volumetricResponse"||' '||"poissonRatio"||' '||"table#ClassID"||':'||"table#OID"||' '||("biaxialTestData#OID" IS NULL)||' '||("planarTestData#OID" IS NULL)||' '||"uniaxialTestData#ClassID"||':'||"uniaxialTestData#OID"||' '||"volumetricTestData#ClassID"||':'||"volumetricTestData#OID"||' '||("hysteresis#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s %s %s:%s %s:%s %s',"type","moduliTimeScale","temperatureDependency","n","beta"=1.7976931348623157e308,"testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","biaxialTestData#OID" IS NULL,"planarTestData#OID" IS NULL,"uniaxialTestData#ClassID","uniaxialTestData#OID","volumetricTestData#ClassID","volumetricTestData#OID","hysteresis#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
 -- is: MARLOW LONG_TERM 1 1 1 1 1 0 BIAXIAL DEFAULT 0.475 37224536:2 1 1 37224529:0 37224535:0 1
 INSERT INTO "kmaC_Material"("##OID","hyperelastic#ClassID","hyperelastic#OID","##BaseClassOID","##Uid")
   VALUES(0,37224494,0,-1,x'0D000000000000004401000000005EED');
--- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||("hyperfoam#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s %s %s',"hyperelastic#ClassID","hyperelastic#OID","hyperfoam#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224494:0 1 1 1
 
 -- A spring steel that is annealed. Its anneal temperature had no flag at the time; it is given one
@@ -374,15 +374,15 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(4,-1,x'14000000000000004401000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","temperatureDependency","dependencies","hardening","rate","dataType","table#ClassID","table#OID","annealTemperature#ClassID","annealTemperature#OID","##BaseClassOID","##Uid")
   VALUES(0,0,0,'COMBINED',0,'HALF_CYCLE',37224536,4,37224561,0,4,x'15000000000000004401000000005EED');
--- after: SELECT "dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_AnnealTemperature WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s',"dependencies","table#ClassID","table#OID") FROM kmaC_AnnealTemperature WHERE "##OID"=0
 -- is: 1 37224536:3
--- after: SELECT "hardening"||' '||"dataType"||' '||"rate"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||"annealTemperature#ClassID"||':'||"annealTemperature#OID" FROM kmaC_Plastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s %s:%s',"hardening","dataType","rate","strainRangeDependency","numBackstresses","temperatureDependency","dependencies","table#ClassID","table#OID","annealTemperature#ClassID","annealTemperature#OID") FROM kmaC_Plastic WHERE "##OID"=0
 -- is: COMBINED HALF_CYCLE 0 0 1 0 0 37224536:4 37224561:0
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
 -- is: 2 0000000000208C4000000000000000000000000000309140B81E85EB51B89E3F
 INSERT INTO "kmaC_Material"("##OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
   VALUES(1,37224508,0,-1,x'16000000000000004401000000005EED');
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("hyperelastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s',"plastic#ClassID","plastic#OID","hyperelastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224508:0 1
 
 -- The pull of the test machine, in equal steps.
@@ -398,7 +398,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","time","##BaseClassOID","##Uid
   VALUES(0,'EQUALLY SPACED','STEP',-1,x'1A000000000000004401000000005EED');
 INSERT INTO "kamC_EquallySpaced"("##OID","smooth","fixedInterval","begin","table#ClassID","table#OID","baselineCorrection#ClassID","baselineCorrection#OID","##BaseClassOID","##Uid")
   VALUES(0,0.1,0.5,0.0,2293761,5,38010881,0,0,x'1B000000000000004401000000005EED');
--- after: SELECT "fixedInterval"||' '||"begin"||' '||"smooth"||' '||"data#ClassID"||':'||"data#OID"||' '||"baselineCorrection#ClassID"||':'||"baselineCorrection#OID" FROM kamC_EquallySpaced WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s:%s',"fixedInterval","begin","smooth","data#ClassID","data#OID","baselineCorrection#ClassID","baselineCorrection#OID") FROM kamC_EquallySpaced WHERE "##OID"=0
 -- is: 0.5 0.0 0.1 2293761:5 38010881:0
 -- after: SELECT timeSpan FROM kamC_Amplitude
 -- is: STEP

@@ -409,15 +409,15 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(2,-1,x'0B00000000000000A801000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","hardening","rate","dataType","strainRangeDependency","gamma","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(2,'COMBINED',0,'STABILIZED',1,17.0,0,0,37224536,2,2,x'0C00000000000000A801000000005EED');
--- after: SELECT "hardening"||' '||"rate"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s',"hardening","rate","dataType","strainRangeDependency","numBackstresses","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=0
 -- is: COMBINED 0 PARAMETERS 0 1 1 0 37224536:0
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
 -- is: 4 0000000000006440000000000094C1400000000000404F4000000000000034400000000000005E40000000000058BB400000000000404F400000000000C07240
--- after: SELECT "hardening"||' '||"rate"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s',"hardening","rate","dataType","strainRangeDependency","numBackstresses","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=1
 -- is: COMBINED 0 PARAMETERS 0 1 0 0 37224536:1
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=1
 -- is: 3 0000000000A06940000000000058CB400000000000000000
--- after: SELECT "hardening"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=2
+-- after: SELECT printf('%s %s %s %s %s:%s',"hardening","dataType","strainRangeDependency","numBackstresses","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=2
 -- is: COMBINED STABILIZED 1 1 37224536:2
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=2
 -- is: 3 00000000006073400000000000000000000000000000F03F0000000000A074407B14AE47E17A843F000000000000F03F
@@ -435,7 +435,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(3,-1,x'0F00000000000000A801000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","hardening","rate","dataType","strainRangeDependency","gamma","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(3,'COMBINED',0,'PARAMETERS',0,NULL,0,0,37224536,3,3,x'1000000000000000A801000000005EED');
--- after: SELECT "numBackstresses"||' '||"strainRangeDependency"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=3
+-- after: SELECT printf('%s %s %s:%s',"numBackstresses","strainRangeDependency","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=3
 -- is: 1 0 37224536:3
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=3
 -- is: 3 0000000000406F40000000000082D4400000000000005E40
@@ -455,11 +455,11 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(5,-1,x'1500000000000000A801000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","hardening","rate","dataType","strainRangeDependency","gamma","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(5,'COMBINED',0,'PARAMETERS',0,44.0,0,0,37224536,4,5,x'1600000000000000A801000000005EED');
--- after: SELECT "numBackstresses"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=4
+-- after: SELECT printf('%s %s:%s',"numBackstresses","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=4
 -- is: 1 37224536:4
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=4
 -- is: 3 0000000000806140000000000070B7400000000000004640
--- after: SELECT "numBackstresses"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Plastic WHERE "##OID"=5
+-- after: SELECT printf('%s %s:%s',"numBackstresses","table#ClassID","table#OID") FROM kmaC_Plastic WHERE "##OID"=5
 -- is: 1 37224536:4
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=5
 -- is: 3 0000000000806140000000000070B7400000000000004640
@@ -482,9 +482,9 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(7,-1,x'1D00000000000000A801000000005EED');
 INSERT INTO "kmaC_Expansion"("##OID","type","zero","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(1,'ISOTROPIC',0.0,0,0,37224536,6,7,x'1E00000000000000A801000000005EED');
--- after: SELECT "type"||' '||"userSubroutine"||' '||"zero"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Expansion WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"type","userSubroutine","zero","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Expansion WHERE "##OID"=0
 -- is: ISOTROPIC 1 23.0 0 2 37224536:5
--- after: SELECT "type"||' '||"userSubroutine"||' '||"zero"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Expansion WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"type","userSubroutine","zero","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Expansion WHERE "##OID"=1
 -- is: ISOTROPIC 0 0.0 0 0 37224536:6
 
 -- A subroutine's material for crash, mechanical and thermal; the lists are what the material
@@ -503,7 +503,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(8,-1,x'2300000000000000A801000000005EED');
 INSERT INTO "kmaC_UserMaterial"("##OID","type","unsymm","mechanicalTable#ClassID","mechanicalTable#OID","thermalTable#ClassID","thermalTable#OID","##BaseClassOID","##Uid")
   VALUES(0,'THERMOMECHANICAL',0,37224536,7,37224536,8,8,x'2400000000000000A801000000005EED');
--- after: SELECT "type"||' '||"unsymm"||' '||"mechanicalConstants#ClassID"||':'||"mechanicalConstants#OID"||' '||"thermalConstants#ClassID"||':'||"thermalConstants#OID" FROM kmaC_UserMaterial WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s:%s %s:%s',"type","unsymm","mechanicalConstants#ClassID","mechanicalConstants#OID","thermalConstants#ClassID","thermalConstants#OID") FROM kmaC_UserMaterial WHERE "##OID"=0
 -- is: THERMOMECHANICAL 0 2293761:7 2293761:8
 -- after: SELECT hex("Target#Handle") FROM cls_List WHERE "##OID" IN (7,8) ORDER BY "##OID"
 -- is: 0000000080A20941333333333333D33F00000000002072400AD7A3703D0AC73F 0000000000804640000000000B6BBB41
@@ -518,7 +518,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(9,-1,x'2700000000000000A801000000005EED');
 INSERT INTO "kmaC_Hyperelastic"("##OID","type","moduliTimeScale","temperatureDependency","n","beta","testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'NEO_HOOKE','INSTANTANEOUS',0,1,1.7976931348623157e+308,0,1,0,'PLANAR','POISSON_RATIO',0.49,37224536,9,9,x'2800000000000000A801000000005EED');
--- after: SELECT "type"||' '||"moduliTimeScale"||' '||"temperatureDependency"||' '||"n"||' '||("beta"=1.7976931348623157e308)||' '||"testData"||' '||"compressible"||' '||"properties"||' '||"deviatoricResponse"||' '||"volumetricResponse"||' '||"poissonRatio"||' '||"table#ClassID"||':'||"table#OID"||' '||("biaxialTestData#OID" IS NULL)||' '||("volumetricTestData#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s %s',"type","moduliTimeScale","temperatureDependency","n","beta"=1.7976931348623157e308,"testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","biaxialTestData#OID" IS NULL,"volumetricTestData#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
 -- is: NEO_HOOKE INSTANTANEOUS 0 1 1 0 1 0 PLANAR POISSON_RATIO 0.49 37224536:9 1 1
 -- 1e-09, 3, -0.1
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -529,7 +529,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(10,-1,x'2B00000000000000A801000000005EED');
 INSERT INTO "kmaC_Viscous"("##OID","law","temperatureDependency","dependencies","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'STRAIN',0,0,37224536,10,10,x'2C00000000000000A801000000005EED');
--- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("potential#OID" IS NULL) FROM kmaC_Viscous WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s',"law","temperatureDependency","dependencies","table#ClassID","table#OID","potential#OID" IS NULL) FROM kmaC_Viscous WHERE "##OID"=0
 -- is: STRAIN 0 0 37224536:10 1
 INSERT INTO "kmaC_Material"("##OID","expansion#ClassID","expansion#OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
   VALUES(0,37224481,0,37224508,0,-1,x'2D00000000000000A801000000005EED');
@@ -547,7 +547,7 @@ INSERT INTO "kmaC_Material"("##OID","plastic#ClassID","plastic#OID","##BaseClass
   VALUES(6,37224508,5,-1,x'3300000000000000A801000000005EED');
 INSERT INTO "kmaC_Material"("##OID","hyperelastic#ClassID","hyperelastic#OID","viscous#ClassID","viscous#OID","##BaseClassOID","##Uid")
   VALUES(7,37224494,0,37224560,0,-1,x'3400000000000000A801000000005EED');
--- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||"viscous#ClassID"||':'||"viscous#OID"||' '||("viscoelastic#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=7
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"hyperelastic#ClassID","hyperelastic#OID","viscous#ClassID","viscous#OID","viscoelastic#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=7
 -- is: 37224494:0 37224560:0 1 1 1
 
 -- Its histories have a time span already; the kind of definition is dropped.
@@ -558,7 +558,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","timeSpan","##BaseClassOID","#
   VALUES(0,'TABULAR','TOTAL',-1,x'3600000000000000A801000000005EED');
 INSERT INTO "kamC_Tabular"("##OID","smooth","data#ClassID","data#OID","##BaseClassOID","##Uid")
   VALUES(0,0.0,2293761,11,0,x'3700000000000000A801000000005EED');
--- after: SELECT "smooth"||' '||"data#ClassID"||':'||"data#OID"||' '||("baselineCorrection#OID" IS NULL) FROM kamC_Tabular WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s %s',"smooth","data#ClassID","data#OID","baselineCorrection#OID" IS NULL) FROM kamC_Tabular WHERE "##OID"=0
 -- is: 0.0 2293761:11 1
 -- 0.3, -0.1
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -567,7 +567,7 @@ INSERT INTO "kamC_Amplitude"("##OID","definition","timeSpan","##BaseClassOID","#
   VALUES(1,'PERIODIC','STEP',-1,x'3900000000000000A801000000005EED');
 INSERT INTO "kamC_Periodic"("##OID","frequency","start","a_0","data#ClassID","data#OID","##BaseClassOID","##Uid")
   VALUES(0,94.25,0.0,1.0,2293761,12,1,x'3A00000000000000A801000000005EED');
--- after: SELECT "frequency"||' '||"start"||' '||"a_0"||' '||"data#ClassID"||':'||"data#OID" FROM kamC_Periodic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"frequency","start","a_0","data#ClassID","data#OID") FROM kamC_Periodic WHERE "##OID"=0
 -- is: 94.25 0.0 1.0 2293761:12
 -- after: SELECT timeSpan FROM kamC_Amplitude ORDER BY "##OID"
 -- is: TOTAL STEP
@@ -583,7 +583,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(0,-1,x'3C00000000000000A801000000005EED');
 INSERT INTO "kbpC_BoxProfile"("##OID","b","a","tempThick#ClassID","tempThick#OID","uniformThickness","##BaseClassOID","##Uid")
   VALUES(0,150.0,60.0,2293761,13,0,0,x'3D00000000000000A801000000005EED');
--- after: SELECT "a"||' '||"b"||' '||"uniformThickness"||' '||"t1"||' '||"t2"||' '||"t3"||' '||"t4" FROM kbpC_BoxProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s',"a","b","uniformThickness","t1","t2","t3","t4") FROM kbpC_BoxProfile WHERE "##OID"=0
 -- is: 60.0 150.0 0 2.0 2.5 2.0 2.5
 -- 1.2, 1.4, 1.2
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -592,7 +592,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(1,-1,x'3F00000000000000A801000000005EED');
 INSERT INTO "kbpC_BoxProfile"("##OID","b","a","tempThick#ClassID","tempThick#OID","uniformThickness","##BaseClassOID","##Uid")
   VALUES(1,110.0,90.0,2293761,14,0,1,x'4000000000000000A801000000005EED');
--- after: SELECT "a"||' '||"b"||' '||"t1"||' '||"t2"||' '||"t3" FROM kbpC_BoxProfile WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s',"a","b","t1","t2","t3") FROM kbpC_BoxProfile WHERE "##OID"=1
 -- is: 90.0 110.0 1.2 1.4 1.2
 -- after: SELECT t4 IS NULL FROM kbpC_BoxProfile WHERE "##OID"=1
 -- is: 1
@@ -602,7 +602,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(2,-1,x'4100000000000000A801000000005EED');
 INSERT INTO "kbpC_GeneralizedProfile"("##OID","linearBehavior","area","i11","i12","i22","j","gammaO","gammaW","##BaseClassOID","##Uid")
   VALUES(0,0,120.0,5400.0,-12.5,880.0,310.0,0.0,0.0,2,x'4200000000000000A801000000005EED');
--- after: SELECT "area"||' '||"i11"||' '||"i12"||' '||"i22"||' '||"j"||' '||"gammaO"||' '||"gammaW" FROM kbpC_GeneralizedProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s',"area","i11","i12","i22","j","gammaO","gammaW") FROM kbpC_GeneralizedProfile WHERE "##OID"=0
 -- is: 120.0 5400.0 -12.5 880.0 310.0 0.0 0.0
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_GeneralizedProfile') WHERE name IN ('linearBehavior')
 -- is: 0
@@ -610,7 +610,7 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(3,-1,x'4300000000000000A801000000005EED');
 INSERT INTO "kbpC_IbeamProfile"("##OID","l","h","b1","b2","t1","t2","t3","integration","##BaseClassOID","##Uid")
   VALUES(0,40.0,80.0,46.0,46.0,5.2,5.2,3.8,0,3,x'4400000000000000A801000000005EED');
--- after: SELECT "l"||' '||"h"||' '||"b1"||' '||"b2"||' '||"t1"||' '||"t2"||' '||"t3" FROM kbpC_IbeamProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s',"l","h","b1","b2","t1","t2","t3") FROM kbpC_IbeamProfile WHERE "##OID"=0
 -- is: 40.0 80.0 46.0 46.0 5.2 5.2 3.8
 -- after: SELECT count(*) FROM pragma_table_info('kbpC_IbeamProfile') WHERE name IN ('integration')
 -- is: 0
@@ -618,25 +618,25 @@ INSERT INTO "kbpC_BeamProfile"("##OID","##BaseClassOID","##Uid")
   VALUES(4,-1,x'4500000000000000A801000000005EED');
 INSERT INTO "kbpC_PipeProfile"("##OID","r","t","##BaseClassOID","##Uid")
   VALUES(0,27.5,1.5,4,x'4600000000000000A801000000005EED');
--- after: SELECT "r"||' '||"t" FROM kbpC_PipeProfile WHERE "##OID"=0
+-- after: SELECT printf('%s %s',"r","t") FROM kbpC_PipeProfile WHERE "##OID"=0
 -- is: 27.5 1.5
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kmaC_Plastic','kmaC_Expansion','kmaC_UserMaterial','kmaC_Hyperelastic','kmaC_Viscous','kamC_Amplitude','kbpC_BoxProfile','kbpC_GeneralizedProfile','kbpC_IbeamProfile','kbpC_PipeProfile') ORDER BY ClassName
 -- is: kamC_Amplitude:430 kbpC_BoxProfile:430 kbpC_GeneralizedProfile:430 kbpC_IbeamProfile:430 kbpC_PipeProfile:406 kmaC_Expansion:435 kmaC_Hyperelastic:864 kmaC_Plastic:1107 kmaC_UserMaterial:451 kmaC_Viscous:438
 
 -- The materials themselves refer to the options that they had, and have got two empty texts.
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||"expansion#ClassID"||':'||"expansion#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"plastic#ClassID","plastic#OID","expansion#ClassID","expansion#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224508:0 37224481:0 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||"expansion#ClassID"||':'||"expansion#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"plastic#ClassID","plastic#OID","expansion#ClassID","expansion#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224508:1 37224481:1 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
 -- is: 37224508:2 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=3
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=3
 -- is: 37224508:3 1 1 1
--- after: SELECT "userMaterial#ClassID"||':'||"userMaterial#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=4
+-- after: SELECT printf('%s:%s %s %s %s',"userMaterial#ClassID","userMaterial#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=4
 -- is: 37224531:0 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=5
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=5
 -- is: 37224508:4 1 1 1
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=6
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=6
 -- is: 37224508:5 1 1 1
 
 -- The materials by name.

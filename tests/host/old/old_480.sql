@@ -424,7 +424,7 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(2,x'010000000200000003000000',1,54,x'0600000000000000E001000000005EED');
 INSERT INTO "kbeC_Elasticity"("##OID","coupling","behavior","dependentComponents#ClassID","dependentComponents#OID","frequencyDependency","##BaseClassOID","##Uid")
   VALUES(0,'COUPLED_MOTION','NONLINEAR',2293761,2,0,0,x'0700000000000000E001000000005EED');
--- after: SELECT "behavior"||' '||"coupling"||' '||"dependencies"||' '||"temperatureDependency"||' '||"frequencyDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorElasticity WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s %s:%s',"behavior","coupling","dependencies","temperatureDependency","frequencyDependency","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorElasticity WHERE "##OID"=0
 -- is: NONLINEAR COUPLED_MOTION 0 1 0 655374:0 2293761:2 2293761:0
 -- after: SELECT l."Target#Kind"||':'||hex(l."Target#Handle") FROM kbeC_ConnectorElasticity o JOIN cls_List l ON l."##OID"=o."independentComponents#OID" WHERE o."##OID"=0 AND o."independentComponents#ClassID"=2293761
 -- is: 54:010000000200000003000000
@@ -432,7 +432,7 @@ INSERT INTO "kbeC_Elasticity"("##OID","coupling","behavior","dependentComponents
 -- is: 54:01000000
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kbeC_ConnectorElasticity o JOIN mdl_PropertyTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0 AND o."table#ClassID"=0xA000E
 -- is: 5 0000000000208CC000000000000000C00000000000000000000000000000000000000000000034400000000000208C400000000000000040000000000000000000000000000000000000000000003440
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorElasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorElasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "##BaseClassOID" FROM kbeC_ConnectorElasticity
 -- is: -1
@@ -454,13 +454,13 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(5,x'',1,54,x'0D00000000000000E001000000005EED');
 INSERT INTO "kbeC_Damping"("##OID","coupling","behavior","dependentComponents#ClassID","dependentComponents#OID","frequencyDependency","##BaseClassOID","##Uid")
   VALUES(0,'UNCOUPLED','LINEAR',2293761,5,1,1,x'0E00000000000000E001000000005EED');
--- after: SELECT "behavior"||' '||"coupling"||' '||"dependencies"||' '||"temperatureDependency"||' '||"frequencyDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorDamping WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s %s:%s',"behavior","coupling","dependencies","temperatureDependency","frequencyDependency","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorDamping WHERE "##OID"=0
 -- is: LINEAR UNCOUPLED 1 0 1 655374:1 2293761:5 2293761:3
 -- after: SELECT l."Target#Kind"||':'||hex(l."Target#Handle") FROM kbeC_ConnectorDamping o JOIN cls_List l ON l."##OID"=o."components#OID" WHERE o."##OID"=0 AND o."components#ClassID"=2293761
 -- is: 54:0100000004000000
 -- after: SELECT l."Target#Kind"||':'||hex(l."Target#Handle") FROM kbeC_ConnectorDamping o JOIN cls_List l ON l."##OID"=o."independentComponents#OID" WHERE o."##OID"=0 AND o."independentComponents#ClassID"=2293761
 -- is: 54:
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorDamping o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamping o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "##BaseClassOID" FROM kbeC_ConnectorDamping
 -- is: -1
@@ -474,7 +474,7 @@ INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","compone
   VALUES(2,2293761,6,-1,x'1000000000000000E001000000005EED');
 INSERT INTO "kbeC_Stops"("##OID","minDisplacement","maxDisplacement","##BaseClassOID","##Uid")
   VALUES(0,-1.7976931348623157e+308,12.5,2,x'1100000000000000E001000000005EED');
--- after: SELECT ("minMotion"=-1.7976931348623157e308)||' '||"maxMotion"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorStop WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s:%s',"minMotion"=-1.7976931348623157e308,"maxMotion","components#ClassID","components#OID") FROM kbeC_ConnectorStop WHERE "##OID"=0
 -- is: 1 12.5 2293761:6
 -- after: SELECT "##BaseClassOID" FROM kbeC_ConnectorStop
 -- is: 2
@@ -509,11 +509,11 @@ INSERT INTO "kbeC_MotionDiscontinuity"("##OID","affectedComponent","minDisplacem
   VALUES(2,-1,1.7976931348623157e+308,30.0,-1.7976931348623157e+308,12000.0,5,x'1C00000000000000E001000000005EED');
 INSERT INTO "kbeC_Failure"("##OID","##BaseClassOID","##Uid")
   VALUES(0,2,x'1D00000000000000E001000000005EED');
--- after: SELECT "lockingComponent"||' '||"minMotion"||' '||("maxMotion"=1.7976931348623157e308)||' '||("minForce"=1.7976931348623157e308)||' '||"maxForce"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorLock WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"lockingComponent","minMotion","maxMotion"=1.7976931348623157e308,"minForce"=1.7976931348623157e308,"maxForce","components#ClassID","components#OID") FROM kbeC_ConnectorLock WHERE "##OID"=0
 -- is: 3 -0.8 1 1 6500.0 2293761:7
--- after: SELECT "lockingComponent"||' '||("minMotion"=-1.7976931348623157e308)||' '||"maxMotion"||' '||"minForce"||' '||("maxForce"=1.7976931348623157e308)||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorLock WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"lockingComponent","minMotion"=-1.7976931348623157e308,"maxMotion","minForce","maxForce"=1.7976931348623157e308,"components#ClassID","components#OID") FROM kbeC_ConnectorLock WHERE "##OID"=1
 -- is: 2147483647 1 0.05 -40.0 1 2293761:8
--- after: SELECT "releaseComponent"||' '||("minMotion"=1.7976931348623157e308)||' '||"maxMotion"||' '||("minForce"=1.7976931348623157e308)||' '||"maxForce"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorFailure WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"releaseComponent","minMotion"=1.7976931348623157e308,"maxMotion","minForce"=1.7976931348623157e308,"maxForce","components#ClassID","components#OID") FROM kbeC_ConnectorFailure WHERE "##OID"=0
 -- is: 2147483647 1 30.0 1 12000.0 2293761:9
 -- after: SELECT "##BaseClassOID" FROM kbeC_ConnectorLock UNION ALL SELECT "##BaseClassOID" FROM kbeC_ConnectorFailure
 -- is: -1 -1 -1
@@ -556,17 +556,17 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(16,x'01000000',1,54,x'2C00000000000000E001000000005EED');
 INSERT INTO "kbeC_Friction"("##OID","frictionModel","stickStiffness","tangentDirs","componentType","independentComponents#ClassID","independentComponents#OID","slipDependency","##BaseClassOID","##Uid")
   VALUES(1,'USER_CUSTOMIZED',500000.0,1,'POSITION',2293761,16,0,3,x'2D00000000000000E001000000005EED');
--- after: SELECT "frictionModel"||' '||"slipStyle"||' '||"tangentDirection"||' '||"stickStiffness"||' '||"componentType"||' '||"slipDependency"||' '||"temperatureDependency"||' '||"dependencies"||' '||"useContactForceComponent"||' '||"contactForceStyle"||' '||"contactForceComponent"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"table#ClassID"||':'||"table#OID"||' '||"tangentialBehavior#ClassID"||':'||"tangentialBehavior#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s %s',"frictionModel","slipStyle","tangentDirection","stickStiffness","componentType","slipDependency","temperatureDependency","dependencies","useContactForceComponent","contactForceStyle","contactForceComponent","forcePotentialOperator","forcePotentialExponent","table#ClassID","table#OID","tangentialBehavior#ClassID","tangentialBehavior#OID","independentComponents#ClassID","independentComponents#OID","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=0
 -- is: PREDEFINED SPECIFY 2 2000000.0 NO_INDEPENDENT_COMPONENTS 0 0 0 0 COMPONENT_NUMBER 0 SUM 0.0 655374:2 44564493:0 2293761:13 1
--- after: SELECT "frictionModel"||' '||"slipStyle"||' '||"tangentDirection"||' '||"stickStiffness"||' '||"componentType"||' '||"slipDependency"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID"||' '||("tangentialBehavior#OID" IS NULL)||' '||"independentComponents#ClassID"||':'||"independentComponents#OID"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s:%s %s %s:%s %s',"frictionModel","slipStyle","tangentDirection","stickStiffness","componentType","slipDependency","temperatureDependency","dependencies","table#ClassID","table#OID","tangentialBehavior#OID" IS NULL,"independentComponents#ClassID","independentComponents#OID","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=1
 -- is: USER_CUSTOMIZED SPECIFY 1 500000.0 POSITION 0 1 0 655374:3 1 2293761:16 1
--- after: SELECT "formulation"||' '||"slipRateDependency"||' '||"pressureDependency"||' '||"temperatureDependency"||' '||"dependencies"||' '||"exponentialDecayDefinition"||' '||("shearStressLimit"=1.7976931348623157e308)||' '||"maximumElasticSlip"||' '||"fraction"||' '||("absoluteDistance"=1.7976931348623157e308)||' '||"table#ClassID"||':'||"table#OID" FROM kbeC_TangentialBehavior WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s:%s',"formulation","slipRateDependency","pressureDependency","temperatureDependency","dependencies","exponentialDecayDefinition","shearStressLimit"=1.7976931348623157e308,"maximumElasticSlip","fraction","absoluteDistance"=1.7976931348623157e308,"table#ClassID","table#OID") FROM kbeC_TangentialBehavior WHERE "##OID"=0
 -- is: PENALTY 1 0 0 0 COEFFICIENTS 1 FRACTION 0.005 1 2293761:10
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kbeC_ConnectorFriction o JOIN mdl_PropertyTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=1 AND o."table#ClassID"=0xA000E
 -- is: 3 000000000080414000000000000014C00000000000003440000000000000454000000000000014400000000000003440
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=1 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=1 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "##BaseClassOID" FROM kbeC_ConnectorFriction
 -- is: -1 -1
@@ -611,19 +611,19 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(23,x'0100000005000000',1,54,x'3B00000000000000E001000000005EED');
 INSERT INTO "kbeC_Damage"("##OID","criterion","initiationTemperature","initiationDependencies","initiationTable#ClassID","initiationTable#OID","evolution","evolutionType","softening","useAffected","affectedComponents#ClassID","affectedComponents#OID","degradation","evolutionTemperature","evolutionDependencies","evolutionTable#ClassID","evolutionTable#OID","##BaseClassOID","##Uid")
   VALUES(0,'FORCE',0,0,655374,6,1,'ENERGY','LINEAR',1,2293761,23,'MULTIPLICATIVE',0,1,655374,7,9,x'3C00000000000000E001000000005EED');
--- after: SELECT "coupling"||' '||"isotropic"||' '||"isotropicType"||' '||"isotropicTemperature"||' '||"isotropicDependencies"||' '||"kinematic"||' '||"kinematicType"||' '||"kinematicTemperature"||' '||"kinematicDependencies"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"isotropicTable#ClassID"||':'||"isotropicTable#OID"||' '||"kinematicTable#ClassID"||':'||"kinematicTable#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s',"coupling","isotropic","isotropicType","isotropicTemperature","isotropicDependencies","kinematic","kinematicType","kinematicTemperature","kinematicDependencies","forcePotentialOperator","forcePotentialExponent","isotropicTable#ClassID","isotropicTable#OID","kinematicTable#ClassID","kinematicTable#OID","components#ClassID","components#OID") FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
 -- is: UNCOUPLED 1 TABULAR 0 0 1 HALF_CYCLE 1 0 SUM 0.0 655374:4 655374:5 2293761:17
--- after: SELECT "coupling"||' '||"criterion"||' '||"initiationTemperature"||' '||"initiationPotentialOperator"||' '||"initiationPotentialExponent"||' '||"initiationDependencies"||' '||"evolution"||' '||"evolutionType"||' '||"softening"||' '||"useAffected"||' '||"degradation"||' '||"evolutionTemperature"||' '||"evolutionDependencies"||' '||"evolutionPotentialOperator"||' '||"evolutionPotentialExponent"||' '||"initiationTable#ClassID"||':'||"initiationTable#OID"||' '||"evolutionTable#ClassID"||':'||"evolutionTable#OID"||' '||"affectedComponents#ClassID"||':'||"affectedComponents#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s %s:%s',"coupling","criterion","initiationTemperature","initiationPotentialOperator","initiationPotentialExponent","initiationDependencies","evolution","evolutionType","softening","useAffected","degradation","evolutionTemperature","evolutionDependencies","evolutionPotentialOperator","evolutionPotentialExponent","initiationTable#ClassID","initiationTable#OID","evolutionTable#ClassID","evolutionTable#OID","affectedComponents#ClassID","affectedComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorDamage WHERE "##OID"=0
 -- is: UNCOUPLED FORCE 0 SUM 0.0 0 1 ENERGY_TYPE LINEAR 1 MULTIPLICATIVE 0 1 SUM 0.0 655374:6 655374:7 2293761:23 2293761:20
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=0 AND o."isotropicOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=0 AND o."isotropicOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=0 AND o."kinematicOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=0 AND o."kinematicOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "isotropicOptions#OID"<>"kinematicOptions#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
 -- is: 1
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."initiationOptions#OID" WHERE o."##OID"=0 AND o."initiationOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."initiationOptions#OID" WHERE o."##OID"=0 AND o."initiationOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."evolutionOptions#OID" WHERE o."##OID"=0 AND o."evolutionOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."evolutionOptions#OID" WHERE o."##OID"=0 AND o."evolutionOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "initiationOptions#OID"<>"evolutionOptions#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
 -- is: 1
@@ -666,11 +666,11 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(1,-1,x'4300000000000000E001000000005EED');
 INSERT INTO "kmaC_Plastic"("##OID","hardening","rate","dataType","strainRangeDependency","gamma","temperatureDependency","dependencies","table#ClassID","table#OID","annealTemperature#ClassID","annealTemperature#OID","##BaseClassOID","##Uid")
   VALUES(0,'ISOTROPIC',0,'HALF_CYCLE',0,0.0,0,0,37224536,1,37224561,0,1,x'4400000000000000E001000000005EED');
--- after: SELECT "dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_AnnealTemperature WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s',"dependencies","table#ClassID","table#OID") FROM kmaC_AnnealTemperature WHERE "##OID"=0
 -- is: 0 37224536:0
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_AnnealTemperature') WHERE name IN ('temperatureDependency')
 -- is: 0
--- after: SELECT "hardening"||' '||"dataType"||' '||"strainRangeDependency"||' '||"numBackstresses"||' '||"table#ClassID"||':'||"table#OID"||' '||"annealTemperature#ClassID"||':'||"annealTemperature#OID" FROM kmaC_Plastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s %s:%s',"hardening","dataType","strainRangeDependency","numBackstresses","table#ClassID","table#OID","annealTemperature#ClassID","annealTemperature#OID") FROM kmaC_Plastic WHERE "##OID"=0
 -- is: ISOTROPIC HALF_CYCLE 0 1 37224536:1 37224561:0
 -- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
 -- is: 2 0000000000407A4000000000000000000000000000E07F407B14AE47E17AB43F
@@ -693,9 +693,9 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
 INSERT INTO "kmaC_CapPlasticity"("##OID","temperatureDependency","dependencies","table#ClassID","table#OID","capCreepCohesion#ClassID","capCreepCohesion#OID","##BaseClassOID","##Uid")
   VALUES(0,0,0,37224536,3,37224574,0,3,x'4C00000000000000E001000000005EED');
 -- The ground below the test track is of a cap that had been split before.
--- after: SELECT "table#ClassID"||':'||"table#OID"||' '||"capCreepCohesion#ClassID"||':'||"capCreepCohesion#OID"||' '||("capCreepConsolidation#OID" IS NULL)||' '||("capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s:%s %s %s',"table#ClassID","table#OID","capCreepCohesion#ClassID","capCreepCohesion#OID","capCreepConsolidation#OID" IS NULL,"capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=0
 -- is: 37224536:3 37224574:0 1 1
--- after: SELECT "law"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_CapCreepCohesion WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"law","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_CapCreepCohesion WHERE "##OID"=0
 -- is: TIME 0 0 37224536:2
 INSERT INTO "kmaC_Material"("##OID","plastic#ClassID","plastic#OID","##BaseClassOID","##Uid")
   VALUES(0,37224508,0,-1,x'4D00000000000000E001000000005EED');
@@ -703,9 +703,9 @@ INSERT INTO "kmaC_Material"("##OID","capPlasticity#ClassID","capPlasticity#OID",
   VALUES(1,37224460,0,-1,x'4E00000000000000E001000000005EED');
 
 -- The materials themselves refer to the options that they had, and have got two empty texts.
--- after: SELECT "plastic#ClassID"||':'||"plastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s %s %s',"plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224508:0 1 1 1
--- after: SELECT "capPlasticity#ClassID"||':'||"capPlasticity#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s %s %s',"capPlasticity#ClassID","capPlasticity#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224460:0 1 1 1
 
 -- The materials by name.

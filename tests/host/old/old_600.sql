@@ -300,9 +300,9 @@ INSERT INTO "kflC_Chebyshev2Filter"("##OID","rippleFactor","##BaseClassOID","##U
   VALUES(0,0.05,2,x'06000000000000005802000000005EED');
 -- after: SELECT cutoffFrequency||' '||"order" FROM kflC_Filter ORDER BY "##OID"
 -- is: 100.0 2 1650.0 2 400.0 2
--- after: SELECT "rippleFactor" FROM kflC_Chebyshev1Filter WHERE "##OID"=0
+-- after: SELECT printf('%s',"rippleFactor") FROM kflC_Chebyshev1Filter WHERE "##OID"=0
 -- is: 0.3
--- after: SELECT "rippleFactor" FROM kflC_Chebyshev2Filter WHERE "##OID"=0
+-- after: SELECT printf('%s',"rippleFactor") FROM kflC_Chebyshev2Filter WHERE "##OID"=0
 -- is: 0.05
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kflC_Filter','kflC_ButterworthFilter','kflC_Chebyshev1Filter','kflC_Chebyshev2Filter') ORDER BY ClassName
 -- is: kflC_ButterworthFilter:427 kflC_Chebyshev1Filter:427 kflC_Chebyshev2Filter:427 kflC_Filter:821
@@ -320,15 +320,15 @@ INSERT INTO "kbeC_Potential"("##OID","componentStyle","componentNumber","compone
   VALUES(3,'NUMBER',4,'',1.0,2.0,0.0,'ABS','POSITIVE',-1,x'0A000000000000005802000000005EED');
 INSERT INTO "kbeC_Potential"("##OID","componentStyle","componentNumber","componentName","scaleFactor","positiveExp","shiftFactor","hFunction","sign","##BaseClassOID","##Uid")
   VALUES(4,'NUMBER',5,'',1.0,3.0,-0.2,'ABS','POSITIVE',-1,x'0B000000000000005802000000005EED');
--- after: SELECT "componentStyle"||' '||"componentNumber"||' '||"sign"||' '||"scaleFactor"||' '||"positiveExponent"||' '||"shiftFactor"||' '||"hFunction"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s',"componentStyle","componentNumber","sign","scaleFactor","positiveExponent","shiftFactor","hFunction","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=0
 -- is: COMPONENT_NUMBER 1 POSITIVE 1.0 2.0 0.0 ABS 1
--- after: SELECT "componentStyle"||' '||"componentNumber"||' '||"sign"||' '||"scaleFactor"||' '||"positiveExponent"||' '||"shiftFactor"||' '||"hFunction"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s',"componentStyle","componentNumber","sign","scaleFactor","positiveExponent","shiftFactor","hFunction","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=1
 -- is: DERIVED_COMPONENT 0 POSITIVE 0.5 1.5 0.1 MACAULEY 1
--- after: SELECT "componentStyle"||' '||"componentNumber"||' '||"sign"||' '||"scaleFactor"||' '||"positiveExponent"||' '||"shiftFactor"||' '||"hFunction"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=2
+-- after: SELECT printf('%s %s %s %s %s %s %s %s',"componentStyle","componentNumber","sign","scaleFactor","positiveExponent","shiftFactor","hFunction","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=2
 -- is: COMPONENT_NUMBER 3 NEGATIVE 2.0 2.0 0.0 IDENTITY 1
--- after: SELECT "componentStyle"||' '||"componentNumber"||' '||"sign"||' '||"scaleFactor"||' '||"positiveExponent"||' '||"shiftFactor"||' '||"hFunction"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=3
+-- after: SELECT printf('%s %s %s %s %s %s %s %s',"componentStyle","componentNumber","sign","scaleFactor","positiveExponent","shiftFactor","hFunction","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=3
 -- is: COMPONENT_NUMBER 4 POSITIVE 1.0 2.0 0.0 ABS 1
--- after: SELECT "componentStyle"||' '||"componentNumber"||' '||"sign"||' '||"scaleFactor"||' '||"positiveExponent"||' '||"shiftFactor"||' '||"hFunction"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=4
+-- after: SELECT printf('%s %s %s %s %s %s %s %s',"componentStyle","componentNumber","sign","scaleFactor","positiveExponent","shiftFactor","hFunction","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorPotential WHERE "##OID"=4
 -- is: COMPONENT_NUMBER 5 POSITIVE 1.0 3.0 -0.2 ABS 1
 -- after: SELECT count(*) FROM pragma_table_info('kbeC_ConnectorPotential') WHERE name IN ('positiveExp','componentName')
 -- is: 0
@@ -362,13 +362,13 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(2,x'04000000',1,54,x'13000000000000005802000000005EED');
 INSERT INTO "kbeC_Friction"("##OID","frictionModel","stickStiffness","tangentDirs","componentType","independentComponents#ClassID","independentComponents#OID","slipDependency","slipStyle","useContForceComponent","contForceStyle","contForceComponent","derivedComponent","frcPotOperator","frcPotExponent","potentials#ClassID","potentials#OID","lastId","##BaseClassOID","##Uid")
   VALUES(0,'USER_CUSTOMIZED',800000.0,4,'MOTION',2293761,2,1,'COMPUTE',1,'DERIV_COMP',0,'normal','MAXIMUM',3.0,44564501,0,11,0,x'14000000000000005802000000005EED');
--- after: SELECT "frictionModel"||' '||"slipStyle"||' '||"tangentDirection"||' '||"stickStiffness"||' '||"componentType"||' '||"slipDependency"||' '||"temperatureDependency"||' '||"dependencies"||' '||"useContactForceComponent"||' '||"contactForceStyle"||' '||"contactForceComponent"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"table#ClassID"||':'||"table#OID"||' '||("tangentialBehavior#OID" IS NULL)||' '||"independentComponents#ClassID"||':'||"independentComponents#OID"||' '||("derivedComponent#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s %s %s:%s %s %s:%s %s',"frictionModel","slipStyle","tangentDirection","stickStiffness","componentType","slipDependency","temperatureDependency","dependencies","useContactForceComponent","contactForceStyle","contactForceComponent","forcePotentialOperator","forcePotentialExponent","table#ClassID","table#OID","tangentialBehavior#OID" IS NULL,"independentComponents#ClassID","independentComponents#OID","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=0
 -- is: USER_CUSTOMIZED COMPUTE 4 800000.0 MOTION 1 1 1 1 DERIVED_COMPONENT 0 MAXIMUM 3.0 655374:0 1 2293761:2 1
 -- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorFriction o JOIN cls_ListEntry e ON e.owner=o."connectorPotentials#OID" WHERE o."##OID"=0 ORDER BY e."##OID"
 -- is: 44564511:2 44564511:0 44564511:1
 -- after: SELECT l."Target#Kind"||' '||l."#Count" FROM kbeC_ConnectorFriction o JOIN cls_List l ON l."##OID"=o."connectorPotentials#OID" WHERE o."##OID"=0 AND o."connectorPotentials#ClassID"=2293761
 -- is: 1 3
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT count(*) FROM pragma_table_info('kbeC_ConnectorFriction') WHERE name IN ('potentials#OID','lastId','tangentDirs','frcPotOperator','contForceStyle')
 -- is: 0
@@ -397,13 +397,13 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(6,x'',1,54,x'1E000000000000005802000000005EED');
 INSERT INTO "kbeC_Friction"("##OID","frictionModel","stickStiffness","tangentDirs","componentType","independentComponents#ClassID","independentComponents#OID","slipDependency","tangentialBehavior#ClassID","tangentialBehavior#OID","slipStyle","useContForceComponent","contForceStyle","contForceComponent","derivedComponent","frcPotOperator","frcPotExponent","potentials#ClassID","potentials#OID","lastId","##BaseClassOID","##Uid")
   VALUES(1,'PREDEFINED',1000000.0,1,'NO_INDEP_COMPS',2293761,6,0,44564493,0,'SPECIFY',1,'NUMBER',3,'','SUM',2.0,44564501,1,0,1,x'1F000000000000005802000000005EED');
--- after: SELECT "frictionModel"||' '||"slipStyle"||' '||"tangentDirection"||' '||"componentType"||' '||"useContactForceComponent"||' '||"contactForceStyle"||' '||"contactForceComponent"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"table#ClassID"||':'||"table#OID"||' '||"tangentialBehavior#ClassID"||':'||"tangentialBehavior#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID" FROM kbeC_ConnectorFriction WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s',"frictionModel","slipStyle","tangentDirection","componentType","useContactForceComponent","contactForceStyle","contactForceComponent","forcePotentialOperator","forcePotentialExponent","table#ClassID","table#OID","tangentialBehavior#ClassID","tangentialBehavior#OID","independentComponents#ClassID","independentComponents#OID") FROM kbeC_ConnectorFriction WHERE "##OID"=1
 -- is: PREDEFINED SPECIFY 1 NO_INDEPENDENT_COMPONENTS 1 COMPONENT_NUMBER 3 SUM 2.0 655374:1 44564493:0 2293761:6
 -- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorFriction o JOIN cls_ListEntry e ON e.owner=o."connectorPotentials#OID" WHERE o."##OID"=1 ORDER BY e."##OID"
 -- is:
 -- after: SELECT l."Target#Kind"||' '||l."#Count" FROM kbeC_ConnectorFriction o JOIN cls_List l ON l."##OID"=o."connectorPotentials#OID" WHERE o."##OID"=1 AND o."connectorPotentials#ClassID"=2293761
 -- is: 1 0
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=1 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=1 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 
 -- The elbow's plasticity, coupled by one potential, by an exponential law; its kinematic table is
@@ -430,15 +430,15 @@ INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClass
   VALUES(3,2293761,9,-1,x'27000000000000005802000000005EED');
 INSERT INTO "kbeC_Plasticity"("##OID","isotropic","isotropicType","isotropicTemperature","isotropicDependencies","isotropicTable#ClassID","isotropicTable#OID","kinematic","kinematicType","kinematicTemperature","kinematicDependencies","kinematicTable#ClassID","kinematicTable#OID","coupling","frcPotOperator","frcPotExponent","potentials#ClassID","potentials#OID","lastId","##BaseClassOID","##Uid")
   VALUES(0,1,'EXPONENTIAL_LAW',1,2,655374,2,0,'PARAMETERS',0,0,655374,3,'COUPLED','MAXIMUM',2.5,44564501,2,1,2,x'28000000000000005802000000005EED');
--- after: SELECT "coupling"||' '||"isotropic"||' '||"isotropicType"||' '||"isotropicTemperature"||' '||"isotropicDependencies"||' '||"kinematic"||' '||"kinematicType"||' '||"kinematicTemperature"||' '||"kinematicDependencies"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"isotropicTable#ClassID"||':'||"isotropicTable#OID"||' '||"kinematicTable#ClassID"||':'||"kinematicTable#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s',"coupling","isotropic","isotropicType","isotropicTemperature","isotropicDependencies","kinematic","kinematicType","kinematicTemperature","kinematicDependencies","forcePotentialOperator","forcePotentialExponent","isotropicTable#ClassID","isotropicTable#OID","kinematicTable#ClassID","kinematicTable#OID","components#ClassID","components#OID") FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
 -- is: COUPLED 1 EXPONENTIAL_LAW 1 2 0 PARAMETERS 0 0 MAXIMUM 2.5 655374:2 655374:3 2293761:7
 -- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorPlasticity o JOIN cls_ListEntry e ON e.owner=o."connectorPotentials#OID" WHERE o."##OID"=0 ORDER BY e."##OID"
 -- is: 44564511:3
 -- after: SELECT l."Target#Kind"||' '||l."#Count" FROM kbeC_ConnectorPlasticity o JOIN cls_List l ON l."##OID"=o."connectorPotentials#OID" WHERE o."##OID"=0 AND o."connectorPotentials#ClassID"=2293761
 -- is: 1 1
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=0 AND o."isotropicOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=0 AND o."isotropicOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=0 AND o."kinematicOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=0 AND o."kinematicOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "isotropicOptions#OID"<>"kinematicOptions#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
 -- is: 1
@@ -460,7 +460,7 @@ INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClass
   VALUES(5,2293761,12,-1,x'2E000000000000005802000000005EED');
 INSERT INTO "kbeC_Plasticity"("##OID","isotropic","isotropicType","isotropicTemperature","isotropicDependencies","isotropicTable#ClassID","isotropicTable#OID","kinematic","kinematicType","kinematicTemperature","kinematicDependencies","kinematicTable#ClassID","kinematicTable#OID","coupling","frcPotOperator","frcPotExponent","potentials#ClassID","potentials#OID","lastId","##BaseClassOID","##Uid")
   VALUES(1,0,'TABULAR',0,0,655374,4,1,'HALF_CYCLE',0,0,655374,5,'COUPLED','SUM',2.0,44564501,2,1,3,x'2F000000000000005802000000005EED');
--- after: SELECT "coupling"||' '||"isotropic"||' '||"kinematic"||' '||"kinematicType"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"isotropicTable#ClassID"||':'||"isotropicTable#OID"||' '||"kinematicTable#ClassID"||':'||"kinematicTable#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s:%s %s:%s %s:%s',"coupling","isotropic","kinematic","kinematicType","forcePotentialOperator","forcePotentialExponent","isotropicTable#ClassID","isotropicTable#OID","kinematicTable#ClassID","kinematicTable#OID","components#ClassID","components#OID") FROM kbeC_ConnectorPlasticity WHERE "##OID"=1
 -- is: COUPLED 0 1 HALF_CYCLE SUM 2.0 655374:4 655374:5 2293761:10
 -- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorPlasticity o JOIN cls_ListEntry e ON e.owner=o."connectorPotentials#OID" WHERE o."##OID"=1 ORDER BY e."##OID"
 -- is: 44564511:3
@@ -468,9 +468,9 @@ INSERT INTO "kbeC_Plasticity"("##OID","isotropic","isotropicType","isotropicTemp
 -- is: 1 1
 -- after: SELECT count(DISTINCT "connectorPotentials#OID") FROM kbeC_ConnectorPlasticity
 -- is: 2
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=1 AND o."isotropicOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=1 AND o."isotropicOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=1 AND o."kinematicOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=1 AND o."kinematicOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "isotropicOptions#OID"<>"kinematicOptions#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=1
 -- is: 1
@@ -506,7 +506,7 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
   VALUES(16,x'',1,54,x'3A000000000000005802000000005EED');
 INSERT INTO "kbeC_Damage"("##OID","criterion","initiationTemperature","initiationDependencies","initiationTable#ClassID","initiationTable#OID","evolution","evolutionType","softening","useAffected","affectedComponents#ClassID","affectedComponents#OID","degradation","evolutionTemperature","evolutionDependencies","evolutionTable#ClassID","evolutionTable#OID","coupling","iniPotOperator","iniPotExponent","iniPotentials#ClassID","iniPotentials#OID","lastIniId","evoPotOperator","evoPotExponent","evoPotentials#ClassID","evoPotentials#OID","lastEvoId","##BaseClassOID","##Uid")
   VALUES(0,'MOTION',1,1,655374,6,1,'MOTION','EXPONENTIAL',0,2293761,16,'MAXIMUM',1,0,655374,7,'COUPLED','SUM',2.0,44564501,3,7,'MAXIMUM',1.5,44564501,4,0,4,x'3B000000000000005802000000005EED');
--- after: SELECT "coupling"||' '||"criterion"||' '||"initiationTemperature"||' '||"initiationPotentialOperator"||' '||"initiationPotentialExponent"||' '||"initiationDependencies"||' '||"evolution"||' '||"evolutionType"||' '||"softening"||' '||"useAffected"||' '||"degradation"||' '||"evolutionTemperature"||' '||"evolutionDependencies"||' '||"evolutionPotentialOperator"||' '||"evolutionPotentialExponent"||' '||"initiationTable#ClassID"||':'||"initiationTable#OID"||' '||"evolutionTable#ClassID"||':'||"evolutionTable#OID"||' '||"affectedComponents#ClassID"||':'||"affectedComponents#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s %s:%s',"coupling","criterion","initiationTemperature","initiationPotentialOperator","initiationPotentialExponent","initiationDependencies","evolution","evolutionType","softening","useAffected","degradation","evolutionTemperature","evolutionDependencies","evolutionPotentialOperator","evolutionPotentialExponent","initiationTable#ClassID","initiationTable#OID","evolutionTable#ClassID","evolutionTable#OID","affectedComponents#ClassID","affectedComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorDamage WHERE "##OID"=0
 -- is: COUPLED MOTION 1 SUM 2.0 1 1 MOTION_TYPE EXPONENTIAL 0 MAXIMUM 1 0 MAXIMUM 1.5 655374:6 655374:7 2293761:16 2293761:13
 -- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorDamage o JOIN cls_ListEntry e ON e.owner=o."initiationPotentials#OID" WHERE o."##OID"=0 ORDER BY e."##OID"
 -- is: 44564511:4
@@ -516,9 +516,9 @@ INSERT INTO "kbeC_Damage"("##OID","criterion","initiationTemperature","initiatio
 -- is:
 -- after: SELECT l."Target#Kind"||' '||l."#Count" FROM kbeC_ConnectorDamage o JOIN cls_List l ON l."##OID"=o."evolutionPotentials#OID" WHERE o."##OID"=0 AND o."evolutionPotentials#ClassID"=2293761
 -- is: 1 0
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."initiationOptions#OID" WHERE o."##OID"=0 AND o."initiationOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."initiationOptions#OID" WHERE o."##OID"=0 AND o."initiationOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."evolutionOptions#OID" WHERE o."##OID"=0 AND o."evolutionOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."evolutionOptions#OID" WHERE o."##OID"=0 AND o."evolutionOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "initiationOptions#OID"<>"evolutionOptions#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
 -- is: 1
@@ -580,15 +580,15 @@ INSERT INTO "kbeC_MotionDiscontinuity"("##OID","affectedComponent","minDisplacem
   VALUES(1,1,1.7976931348623157e+308,1.7976931348623157e+308,-300.0,300.0,9,x'53000000000000005802000000005EED');
 INSERT INTO "kbeC_Failure"("##OID","##BaseClassOID","##Uid")
   VALUES(0,1,x'54000000000000005802000000005EED');
--- after: SELECT "behavior"||' '||"coupling"||' '||"dependencies"||' '||"temperatureDependency"||' '||"frequencyDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID" FROM kbeC_ConnectorElasticity WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s',"behavior","coupling","dependencies","temperatureDependency","frequencyDependency","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID") FROM kbeC_ConnectorElasticity WHERE "##OID"=0
 -- is: RIGID UNCOUPLED 0 0 0 655374:8 2293761:19
--- after: SELECT "behavior"||' '||"coupling"||' '||"dependencies"||' '||"temperatureDependency"||' '||"frequencyDependency"||' '||"table#ClassID"||':'||"table#OID"||' '||"independentComponents#ClassID"||':'||"independentComponents#OID" FROM kbeC_ConnectorDamping WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s',"behavior","coupling","dependencies","temperatureDependency","frequencyDependency","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID") FROM kbeC_ConnectorDamping WHERE "##OID"=0
 -- is: NONLINEAR UNCOUPLED 0 1 0 655374:9 2293761:22
--- after: SELECT "minMotion"||' '||"maxMotion"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorStop WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s:%s',"minMotion","maxMotion","components#ClassID","components#OID") FROM kbeC_ConnectorStop WHERE "##OID"=0
 -- is: -1.57 1.57 2293761:23
--- after: SELECT "lockingComponent"||' '||("minMotion"=1.7976931348623157e308)||' '||"maxMotion"||' '||("minForce"=1.7976931348623157e308)||' '||("maxForce"=1.7976931348623157e308)||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorLock WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"lockingComponent","minMotion"=1.7976931348623157e308,"maxMotion","minForce"=1.7976931348623157e308,"maxForce"=1.7976931348623157e308,"components#ClassID","components#OID") FROM kbeC_ConnectorLock WHERE "##OID"=0
 -- is: 6 1 1.5 1 1 2293761:24
--- after: SELECT "releaseComponent"||' '||("minMotion"=1.7976931348623157e308)||' '||("maxMotion"=1.7976931348623157e308)||' '||"minForce"||' '||"maxForce"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorFailure WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"releaseComponent","minMotion"=1.7976931348623157e308,"maxMotion"=1.7976931348623157e308,"minForce","maxForce","components#ClassID","components#OID") FROM kbeC_ConnectorFailure WHERE "##OID"=0
 -- is: 1 1 1 -300.0 300.0 2293761:25
 -- after: SELECT count(*) FROM nga_Catalogue WHERE ClassName IN ('kbeC_Potential','kbeC_PotentialContainer','kbeC_Tabular','kbeC_MotionDiscontinuity','kbeC_Elasticity','kbeC_Damping','kbeC_Stops','kbeC_Lock','kbeC_Failure','kbeC_Friction','kbeC_Plasticity','kbeC_Damage')
 -- is: 0

@@ -469,13 +469,13 @@ INSERT INTO "kmaC_Damping"("##OID","alpha","beta","composite","##BaseClassOID","
   VALUES(0,0.5,0.0,0.05,3,x'0E000000000000005103000000005EED');
 INSERT INTO "kmaC_Material"("##OID","damping#ClassID","damping#OID","elastic#ClassID","elastic#OID","fluidLeakoff#ClassID","fluidLeakoff#OID","gapFlow#ClassID","gapFlow#OID","##BaseClassOID","##Uid")
   VALUES(0,37224469,0,37224478,0,37224579,0,37224580,0,-1,x'0F000000000000005103000000005EED');
--- after: SELECT "fluidLeakoff#ClassID"||':'||"fluidLeakoff#OID"||' '||"gapFlow#ClassID"||':'||"gapFlow#OID"||' '||"elastic#ClassID"||':'||"elastic#OID"||' '||"damping#ClassID"||':'||"damping#OID"||' '||("brittleCracking#OID" IS NULL)||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s:%s %s:%s %s:%s %s %s %s %s',"fluidLeakoff#ClassID","fluidLeakoff#OID","gapFlow#ClassID","gapFlow#OID","elastic#ClassID","elastic#OID","damping#ClassID","damping#OID","brittleCracking#OID" IS NULL,"mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224579:0 37224580:0 37224478:0 37224469:0 1 1 1 1
--- after: SELECT "temperatureDependency"||' '||"dependencies"||' '||"type"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_FluidLeakoff WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s',"temperatureDependency","dependencies","type","table#ClassID","table#OID") FROM kmaC_FluidLeakoff WHERE "##OID"=0
 -- is: 0 0 COEFFICIENTS 37224536:0
--- after: SELECT ("kmax"=1.7976931348623157e308)||' '||"temperatureDependency"||' '||"dependencies"||' '||"type"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_GapFlow WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"kmax"=1.7976931348623157e308,"temperatureDependency","dependencies","type","table#ClassID","table#OID") FROM kmaC_GapFlow WHERE "##OID"=0
 -- is: 1 1 0 POWER_LAW 37224536:1
--- after: SELECT "alpha"||' '||"beta"||' '||"composite"||' '||"structural" FROM kmaC_Damping WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s',"alpha","beta","composite","structural") FROM kmaC_Damping WHERE "##OID"=0
 -- is: 0.5 0.0 0.05 0.0
 
 -- A shaped charge and a packer of rubber, with what neither had then: compaction and the effect of
@@ -489,7 +489,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(4,-1,x'12000000000000005103000000005EED');
 INSERT INTO "kmaC_Eos"("##OID","type","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'JWL',37224536,3,4,x'13000000000000005103000000005EED');
--- after: SELECT "type"||' '||"table#ClassID"||':'||"table#OID"||' '||("detonationPoint#OID" IS NULL)||' '||("eosShear#OID" IS NULL)||' '||("eosCompaction#OID" IS NULL) FROM kmaC_Eos WHERE "##OID"=0
+-- after: SELECT printf('%s %s:%s %s %s %s',"type","table#ClassID","table#OID","detonationPoint#OID" IS NULL,"eosShear#OID" IS NULL,"eosCompaction#OID" IS NULL) FROM kmaC_Eos WHERE "##OID"=0
 -- is: JWL 37224536:3 1 1 1
 -- 0.3, 0.01, 0.001
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -500,7 +500,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(5,-1,x'16000000000000005103000000005EED');
 INSERT INTO "kmaC_Hyperelastic"("##OID","type","moduliTimeScale","temperatureDependency","n","beta","testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'YEOH','LONG_TERM',0,3,1.7976931348623157e+308,0,0,0,'UNIAXIAL','LATERAL_NOMINAL_STRAIN',0.0,37224536,4,5,x'17000000000000005103000000005EED');
--- after: SELECT "type"||' '||"moduliTimeScale"||' '||"n"||' '||"volumetricResponse"||' '||"poissonRatio"||' '||"table#ClassID"||':'||"table#OID"||' '||("hysteresis#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s',"type","moduliTimeScale","n","volumetricResponse","poissonRatio","table#ClassID","table#OID","hysteresis#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
 -- is: YEOH LONG_TERM 3 LATERAL_NOMINAL_STRAIN 0.0 37224536:4 1
 -- 0.8, 12, 0.1
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -511,7 +511,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(6,-1,x'1A000000000000005103000000005EED');
 INSERT INTO "kmaC_Hyperfoam"("##OID","testData","poisson","n","temperatureDependency","moduli","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,0,0.1,1,0,'INSTANTANEOUS',37224536,5,6,x'1B000000000000005103000000005EED');
--- after: SELECT "testData"||' '||"poisson"||' '||"n"||' '||"temperatureDependency"||' '||"moduli"||' '||"table#ClassID"||':'||"table#OID"||' '||("uniaxialTestData#OID" IS NULL) FROM kmaC_Hyperfoam WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s',"testData","poisson","n","temperatureDependency","moduli","table#ClassID","table#OID","uniaxialTestData#OID" IS NULL) FROM kmaC_Hyperfoam WHERE "##OID"=0
 -- is: 0 0.1 1 0 INSTANTANEOUS 37224536:5 1
 -- 0.3, 0.3, 12
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -522,7 +522,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(7,-1,x'1E000000000000005103000000005EED');
 INSERT INTO "kmaC_Viscoelastic"("##OID","domain","frequency","time","errtol","nmax","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'TIME','FORMULA','PRONY',0.01,13,37224536,6,7,x'1F000000000000005103000000005EED');
--- after: SELECT "domain"||' '||"type"||' '||"preload"||' '||"time"||' '||"errtol"||' '||"nmax"||' '||"table#ClassID"||':'||"table#OID"||' '||("trs#OID" IS NULL) FROM kmaC_Viscoelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s:%s %s',"domain","type","preload","time","errtol","nmax","table#ClassID","table#OID","trs#OID" IS NULL) FROM kmaC_Viscoelastic WHERE "##OID"=0
 -- is: TIME ISOTROPIC NONE PRONY 0.01 13 37224536:6 1
 -- after: SELECT t.allowEmptyFirstRow||' '||length(l."Target#Handle") FROM kmaC_Viscoelastic v JOIN kmaC_MaterialTable t ON t."##OID"=v."volumetricTable#OID" JOIN cls_List l ON l."##OID"=t."table#OID"
 -- is: 1 0
@@ -532,7 +532,7 @@ INSERT INTO "kmaC_Material"("##OID","hyperfoam#ClassID","hyperfoam#OID","##BaseC
   VALUES(2,37224495,0,-1,x'21000000000000005103000000005EED');
 INSERT INTO "kmaC_Material"("##OID","eos#ClassID","eos#OID","##BaseClassOID","##Uid")
   VALUES(3,37224480,0,-1,x'22000000000000005103000000005EED');
--- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||"viscoelastic#ClassID"||':'||"viscoelastic#OID"||' '||("mullinsEffect#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s:%s %s',"hyperelastic#ClassID","hyperelastic#OID","viscoelastic#ClassID","viscoelastic#OID","mullinsEffect#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224494:0 37224533:0 1
 
 -- The shear of a flex joint is derived from two components in two terms, and both the friction and
@@ -571,17 +571,17 @@ INSERT INTO "cls_List"("##OID","Target#Kind","#First","#Count","##Uid")
   VALUES(13,1,0,2,x'2D000000000000005103000000005EED');
 INSERT INTO "kbeC_DerivedComponent"("##OID","cdcTerms#ClassID","cdcTerms#OID","##BaseClassOID","##Uid")
   VALUES(0,2293761,13,-1,x'2E000000000000005103000000005EED');
--- after: SELECT "termOperator"||' '||"termSign"||' '||"localDependency"||' '||"indepCompType"||' '||"tempDependency"||' '||"fieldDependencies"||' '||"intrinsicComponents#ClassID"||':'||"intrinsicComponents#OID"||' '||"indepComponents#ClassID"||':'||"indepComponents#OID"||' '||"table#ClassID"||':'||"table#OID" FROM kbeC_CDCTerm WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s:%s %s:%s %s:%s',"termOperator","termSign","localDependency","indepCompType","tempDependency","fieldDependencies","intrinsicComponents#ClassID","intrinsicComponents#OID","indepComponents#ClassID","indepComponents#OID","table#ClassID","table#OID") FROM kbeC_CDCTerm WHERE "##OID"=0
 -- is: RSS POSITIVE 0 POSITION 0 0 2293761:7 2293761:8 655374:0
--- after: SELECT "termOperator"||' '||"termSign"||' '||"localDependency"||' '||"indepCompType"||' '||"tempDependency"||' '||"fieldDependencies"||' '||"intrinsicComponents#ClassID"||':'||"intrinsicComponents#OID"||' '||"indepComponents#ClassID"||':'||"indepComponents#OID"||' '||"table#ClassID"||':'||"table#OID" FROM kbeC_CDCTerm WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s:%s %s:%s %s:%s',"termOperator","termSign","localDependency","indepCompType","tempDependency","fieldDependencies","intrinsicComponents#ClassID","intrinsicComponents#OID","indepComponents#ClassID","indepComponents#OID","table#ClassID","table#OID") FROM kbeC_CDCTerm WHERE "##OID"=1
 -- is: SUM NEGATIVE 1 MOTION 0 0 2293761:10 2293761:11 655374:1
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_CDCTerm o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_CDCTerm o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_CDCTerm o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=1 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_CDCTerm o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=1 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT count(DISTINCT "options#OID") FROM kbeC_CDCTerm
 -- is: 2
--- after: SELECT "cdcTerms#ClassID"||':'||"cdcTerms#OID" FROM kbeC_DerivedComponent WHERE "##OID"=0
+-- after: SELECT printf('%s:%s',"cdcTerms#ClassID","cdcTerms#OID") FROM kbeC_DerivedComponent WHERE "##OID"=0
 -- is: 2293761:13
 -- after: SELECT "value#ClassID"||':'||"value#OID" FROM cls_ListEntry WHERE owner=13 ORDER BY "##OID"
 -- is: 44564525:0 44564525:1
@@ -603,11 +603,11 @@ INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClass
   VALUES(2,2293761,16,-1,x'34000000000000005103000000005EED');
 INSERT INTO "kbeC_ConnectorFriction"("##OID","frictionModel","slipStyle","tangentDirection","stickStiffness","componentType","slipDependency","temperatureDependency","dependencies","useContactForceComponent","contactForceStyle","contactForceComponent","forcePotentialOperator","forcePotentialExponent","connectorPotentials#ClassID","connectorPotentials#OID","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","derivedComponent#ClassID","derivedComponent#OID","##BaseClassOID","##Uid")
   VALUES(0,'USER_CUSTOMIZED','SPECIFY',1,10000000.0,'MOTION',0,1,0,1,'DERIVED_COMPONENT',0,'MAXIMUM',2.0,2293761,14,655374,2,2293761,15,44564526,0,0,x'35000000000000005103000000005EED');
--- after: SELECT "componentStyle"||' '||"componentNumber"||' '||"derivedComponent#ClassID"||':'||"derivedComponent#OID" FROM kbeC_ConnectorPotential WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s:%s',"componentStyle","componentNumber","derivedComponent#ClassID","derivedComponent#OID") FROM kbeC_ConnectorPotential WHERE "##OID"=0
 -- is: DERIVED_COMPONENT 0 44564526:0
--- after: SELECT "frictionModel"||' '||"slipStyle"||' '||"tangentDirection"||' '||"stickStiffness"||' '||"componentType"||' '||"slipDependency"||' '||"temperatureDependency"||' '||"dependencies"||' '||"useContactForceComponent"||' '||"contactForceStyle"||' '||"contactForceComponent"||' '||"forcePotentialOperator"||' '||"forcePotentialExponent"||' '||"connectorPotentials#ClassID"||':'||"connectorPotentials#OID"||' '||"table#ClassID"||':'||"table#OID"||' '||("tangentialBehavior#OID" IS NULL)||' '||"independentComponents#ClassID"||':'||"independentComponents#OID"||' '||"derivedComponent#ClassID"||':'||"derivedComponent#OID" FROM kbeC_ConnectorFriction WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s %s:%s %s:%s',"frictionModel","slipStyle","tangentDirection","stickStiffness","componentType","slipDependency","temperatureDependency","dependencies","useContactForceComponent","contactForceStyle","contactForceComponent","forcePotentialOperator","forcePotentialExponent","connectorPotentials#ClassID","connectorPotentials#OID","table#ClassID","table#OID","tangentialBehavior#OID" IS NULL,"independentComponents#ClassID","independentComponents#OID","derivedComponent#ClassID","derivedComponent#OID") FROM kbeC_ConnectorFriction WHERE "##OID"=0
 -- is: USER_CUSTOMIZED SPECIFY 1 10000000.0 MOTION 0 1 0 1 DERIVED_COMPONENT 0 MAXIMUM 2.0 2293761:14 655374:2 1 2293761:15 44564526:0
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT e."value#ClassID"||':'||e."value#OID" FROM kbeC_ConnectorFriction o JOIN cls_ListEntry e ON e.owner=o."connectorPotentials#OID" WHERE o."##OID"=0 ORDER BY e."##OID"
 -- is: 44564511:0
@@ -639,11 +639,11 @@ INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","##BaseClassOID","##Uid")
   VALUES(1,-1,x'3E000000000000005103000000005EED');
 INSERT INTO "kbeC_ConnectorDamage"("##OID","coupling","criterion","initiationTemperature","initiationPotentialOperator","initiationPotentialExponent","initiationDependencies","evolution","evolutionType","softening","useAffected","degradation","evolutionTemperature","evolutionDependencies","evolutionPotentialOperator","evolutionPotentialExponent","initiationPotentials#ClassID","initiationPotentials#OID","evolutionPotentials#ClassID","evolutionPotentials#OID","initiationTable#ClassID","initiationTable#OID","evolutionTable#ClassID","evolutionTable#OID","affectedComponents#ClassID","affectedComponents#OID","components#ClassID","components#OID","##BaseClassOID","##Uid")
   VALUES(0,'UNCOUPLED','PLASTIC_MOTION',0,'MAXIMUM',2.0,0,1,'ENERGY_TYPE','TABULAR',1,'MULTIPLICATIVE',0,0,'SUM',2.0,2293761,17,2293761,18,655374,3,655374,4,2293761,19,2293761,20,1,x'3F000000000000005103000000005EED');
--- after: SELECT "coupling"||' '||"criterion"||' '||"initiationPotentialOperator"||' '||"evolutionType"||' '||"softening"||' '||"useAffected"||' '||"degradation"||' '||"evolutionPotentialOperator"||' '||"initiationTable#ClassID"||':'||"initiationTable#OID"||' '||"evolutionTable#ClassID"||':'||"evolutionTable#OID"||' '||"affectedComponents#ClassID"||':'||"affectedComponents#OID"||' '||"components#ClassID"||':'||"components#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s %s:%s',"coupling","criterion","initiationPotentialOperator","evolutionType","softening","useAffected","degradation","evolutionPotentialOperator","initiationTable#ClassID","initiationTable#OID","evolutionTable#ClassID","evolutionTable#OID","affectedComponents#ClassID","affectedComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorDamage WHERE "##OID"=0
 -- is: UNCOUPLED PLASTIC_MOTION MAXIMUM ENERGY_TYPE TABULAR 1 MULTIPLICATIVE SUM 655374:3 655374:4 2293761:19 2293761:20
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."initiationOptions#OID" WHERE o."##OID"=0 AND o."initiationOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."initiationOptions#OID" WHERE o."##OID"=0 AND o."initiationOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
--- after: SELECT p.useBehRegSettings||' '||p.regularize||' '||p.defaultTolerance||' '||p.regularization||' '||p.defaultRateFactor||' '||p.rateFactor||' '||p.interpolation||' '||p.useBehExtSettings||' '||p.extrapolation FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."evolutionOptions#OID" WHERE o."##OID"=0 AND o."evolutionOptions#ClassID"=0x2A8003E
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."evolutionOptions#OID" WHERE o."##OID"=0 AND o."evolutionOptions#ClassID"=0x2A8003E
 -- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
 -- after: SELECT "initiationOptions#OID"<>"evolutionOptions#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
 -- is: 1
@@ -655,9 +655,9 @@ INSERT INTO "kbeC_ConnectorDamage"("##OID","coupling","criterion","initiationTem
 -- is: kbeC_CDCTerm:1026 kbeC_ConnectorDamage:1022 kbeC_ConnectorFriction:1022 kbeC_ConnectorOptions:1026 kbeC_ConnectorPotential:836 kbeC_DerivedComponent:836 kmaC_Eos:850 kmaC_FluidLeakoff:849 kmaC_GapFlow:849 kmaC_Hyperelastic:864 kmaC_Hyperfoam:864 kmaC_Material:1106 kmaC_Viscoelastic:876
 
 -- The materials themselves refer to the options that they had, and have got two empty texts.
--- after: SELECT "hyperfoam#ClassID"||':'||"hyperfoam#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
+-- after: SELECT printf('%s:%s %s %s %s',"hyperfoam#ClassID","hyperfoam#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
 -- is: 37224495:0 1 1 1
--- after: SELECT "eos#ClassID"||':'||"eos#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=3
+-- after: SELECT printf('%s:%s %s %s %s',"eos#ClassID","eos#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=3
 -- is: 37224480:0 1 1 1
 
 -- The materials by name.

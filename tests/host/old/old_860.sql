@@ -372,11 +372,11 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(3,-1,x'10000000000000005C03000000005EED');
 INSERT INTO "kmaC_Hyperelastic"("##OID","type","moduliTimeScale","temperatureDependency","n","beta","testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","uniaxialTestData#ClassID","uniaxialTestData#OID","hysteresis#ClassID","hysteresis#OID","mullinsEffect#ClassID","mullinsEffect#OID","##BaseClassOID","##Uid")
   VALUES(0,'VAN_DER_WAALS','LONG_TERM',0,1,0.25,1,0,0,'UNIAXIAL','DEFAULT',0.0,37224536,3,37224529,0,37224543,0,37224578,0,3,x'11000000000000005C03000000005EED');
--- after: SELECT "type"||' '||"moduliTimeScale"||' '||"temperatureDependency"||' '||"n"||' '||"beta"||' '||"testData"||' '||"compressible"||' '||"properties"||' '||"deviatoricResponse"||' '||"volumetricResponse"||' '||"poissonRatio"||' '||"table#ClassID"||':'||"table#OID"||' '||("biaxialTestData#OID" IS NULL)||' '||("planarTestData#OID" IS NULL)||' '||"uniaxialTestData#ClassID"||':'||"uniaxialTestData#OID"||' '||("volumetricTestData#OID" IS NULL)||' '||"hysteresis#ClassID"||':'||"hysteresis#OID" FROM kmaC_Hyperelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s %s %s:%s %s %s:%s',"type","moduliTimeScale","temperatureDependency","n","beta","testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","biaxialTestData#OID" IS NULL,"planarTestData#OID" IS NULL,"uniaxialTestData#ClassID","uniaxialTestData#OID","volumetricTestData#OID" IS NULL,"hysteresis#ClassID","hysteresis#OID") FROM kmaC_Hyperelastic WHERE "##OID"=0
 -- is: VAN_DER_WAALS LONG_TERM 0 1 0.25 1 0 0 UNIAXIAL DEFAULT 0.0 37224536:3 1 1 37224529:0 1 37224543:0
 -- after: SELECT hex("Target#Handle") FROM cls_List WHERE "##OID"=0
 -- is: 000000000000F83F9A9999999999D93F
--- after: SELECT "smoothing"||' '||"lateralNominalStrain"||' '||"temperatureDependency"||' '||"dependencies"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_UniaxialTestData WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s:%s',"smoothing","lateralNominalStrain","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_UniaxialTestData WHERE "##OID"=0
 -- is: 2147483647 0 0 0 37224536:1
 
 -- A foam with such an effect, and one without. Their shared simple shear test is one row.
@@ -416,9 +416,9 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(7,-1,x'21000000000000005C03000000005EED');
 INSERT INTO "kmaC_Hyperfoam"("##OID","testData","poisson","n","temperatureDependency","moduli","table#ClassID","table#OID","simpleShearTestData#ClassID","simpleShearTestData#OID","##BaseClassOID","##Uid")
   VALUES(1,0,0.0,1,1,'INSTANTANEOUS',37224536,7,37224520,0,7,x'22000000000000005C03000000005EED');
--- after: SELECT "testData"||' '||("poisson"=1.7976931348623157e308)||' '||"n"||' '||"temperatureDependency"||' '||"moduli"||' '||"table#ClassID"||':'||"table#OID"||' '||("biaxialTestData#OID" IS NULL)||' '||("volumetricTestData#OID" IS NULL)||' '||("planarTestData#OID" IS NULL)||' '||"simpleShearTestData#ClassID"||':'||"simpleShearTestData#OID"||' '||("uniaxialTestData#OID" IS NULL) FROM kmaC_Hyperfoam WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s %s %s %s:%s %s',"testData","poisson"=1.7976931348623157e308,"n","temperatureDependency","moduli","table#ClassID","table#OID","biaxialTestData#OID" IS NULL,"volumetricTestData#OID" IS NULL,"planarTestData#OID" IS NULL,"simpleShearTestData#ClassID","simpleShearTestData#OID","uniaxialTestData#OID" IS NULL) FROM kmaC_Hyperfoam WHERE "##OID"=0
 -- is: 1 1 3 0 LONG_TERM 37224536:6 1 1 1 37224520:0 1
--- after: SELECT "testData"||' '||"poisson"||' '||"n"||' '||"temperatureDependency"||' '||"moduli"||' '||"table#ClassID"||':'||"table#OID"||' '||"simpleShearTestData#ClassID"||':'||"simpleShearTestData#OID"||' '||("uniaxialTestData#OID" IS NULL) FROM kmaC_Hyperfoam WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s %s',"testData","poisson","n","temperatureDependency","moduli","table#ClassID","table#OID","simpleShearTestData#ClassID","simpleShearTestData#OID","uniaxialTestData#OID" IS NULL) FROM kmaC_Hyperfoam WHERE "##OID"=1
 -- is: 0 0.0 1 1 INSTANTANEOUS 37224536:7 37224520:0 1
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_Hyperelastic') WHERE name IN ('mullinsEffect#ClassID','mullinsEffect#OID')
 -- is: 0
@@ -438,7 +438,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(8,-1,x'25000000000000005C03000000005EED');
 INSERT INTO "kmaC_Viscoelastic"("##OID","domain","frequency","type","preload","time","errtol","nmax","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'TIME','TABULAR','TRACTION','UNIAXIAL','PRONY',0.01,13,37224536,8,8,x'26000000000000005C03000000005EED');
--- after: SELECT "domain"||' '||"frequency"||' '||"type"||' '||"preload"||' '||"time"||' '||"errtol"||' '||"nmax"||' '||"table#ClassID"||':'||"table#OID"||' '||("combinedTestData#OID" IS NULL)||' '||("shearTestData#OID" IS NULL)||' '||("trs#OID" IS NULL)||' '||("volumetricTestData#OID" IS NULL) FROM kmaC_Viscoelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s %s %s %s %s',"domain","frequency","type","preload","time","errtol","nmax","table#ClassID","table#OID","combinedTestData#OID" IS NULL,"shearTestData#OID" IS NULL,"trs#OID" IS NULL,"volumetricTestData#OID" IS NULL) FROM kmaC_Viscoelastic WHERE "##OID"=0
 -- is: TIME TABULAR TRACTION UNIAXIAL PRONY 0.01 13 37224536:8 1 1 1 1
 -- after: SELECT t.allowEmptyFirstRow||' '||length(l."Target#Handle") FROM kmaC_Viscoelastic v JOIN kmaC_MaterialTable t ON t."##OID"=v."volumetricTable#OID" JOIN cls_List l ON l."##OID"=t."table#OID"
 -- is: 1 0
@@ -460,7 +460,7 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(10,-1,x'2D000000000000005C03000000005EED');
 INSERT INTO "kmaC_BrittleCracking"("##OID","temperatureDependency","dependencies","type","table#ClassID","table#OID","brittleFailure#ClassID","brittleFailure#OID","##BaseClassOID","##Uid")
   VALUES(0,0,0,'GFI',37224536,10,37224577,0,10,x'2E000000000000005C03000000005EED');
--- after: SELECT "temperatureDependency"||' '||"dependencies"||' '||"type"||' '||"table#ClassID"||':'||"table#OID"||' '||("brittleShear#OID" IS NULL)||' '||"brittleFailure#ClassID"||':'||"brittleFailure#OID" FROM kmaC_BrittleCracking WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s:%s %s %s:%s',"temperatureDependency","dependencies","type","table#ClassID","table#OID","brittleShear#OID" IS NULL,"brittleFailure#ClassID","brittleFailure#OID") FROM kmaC_BrittleCracking WHERE "##OID"=0
 -- is: 0 0 GFI 37224536:10 1 37224577:0
 INSERT INTO "kmaC_Material"("##OID","hyperelastic#ClassID","hyperelastic#OID","##BaseClassOID","##Uid")
   VALUES(0,37224494,0,-1,x'2F000000000000005C03000000005EED');
@@ -472,20 +472,20 @@ INSERT INTO "kmaC_Material"("##OID","viscoelastic#ClassID","viscoelastic#OID","#
   VALUES(3,37224533,0,-1,x'32000000000000005C03000000005EED');
 INSERT INTO "kmaC_Material"("##OID","brittleCracking#ClassID","brittleCracking#OID","##BaseClassOID","##Uid")
   VALUES(4,37224455,0,-1,x'33000000000000005C03000000005EED');
--- after: SELECT "hyperelastic#ClassID"||':'||"hyperelastic#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s %s %s',"hyperelastic#ClassID","hyperelastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224494:0 1 1 1
--- after: SELECT "hyperfoam#ClassID"||':'||"hyperfoam#OID"||' '||("mullinsEffect#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s',"hyperfoam#ClassID","hyperfoam#OID","mullinsEffect#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224495:0 1
--- after: SELECT "viscoelastic#ClassID"||':'||"viscoelastic#OID"||' '||("elastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=3
+-- after: SELECT printf('%s:%s %s',"viscoelastic#ClassID","viscoelastic#OID","elastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=3
 -- is: 37224533:0 1
 -- Cracking was back in the material by then, so this one keeps it.
--- after: SELECT "brittleCracking#ClassID"||':'||"brittleCracking#OID"||' '||("viscoelastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=4
+-- after: SELECT printf('%s:%s %s',"brittleCracking#ClassID","brittleCracking#OID","viscoelastic#OID" IS NULL) FROM kmaC_Material WHERE "##OID"=4
 -- is: 37224455:0 1
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kmaC_Material','kmaC_Hyperelastic','kmaC_Hyperfoam','kmaC_Viscoelastic','kmaC_BrittleCracking') ORDER BY ClassName
 -- is: kmaC_BrittleCracking:850 kmaC_Hyperelastic:864 kmaC_Hyperfoam:864 kmaC_Material:1106 kmaC_Viscoelastic:876
 
 -- The materials themselves refer to the options that they had, and have got two empty texts.
--- after: SELECT "hyperfoam#ClassID"||':'||"hyperfoam#OID"||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
+-- after: SELECT printf('%s:%s %s %s %s',"hyperfoam#ClassID","hyperfoam#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
 -- is: 37224495:1 1 1 1
 
 -- The materials by name.

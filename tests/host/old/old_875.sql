@@ -314,17 +314,17 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(3,-1,x'0D000000000000006B03000000005EED');
 INSERT INTO "kmaC_DamageInitiation"("##OID","definition","feq","fnn","fnt","frequency","ks","numberImperfections","temperatureDependency","dependencies","alpha","omega","table#ClassID","table#OID","damageEvolution#ClassID","damageEvolution#OID","##BaseClassOID","##Uid")
   VALUES(1,'MSFLD',10.0,10.0,10.0,1,0.0,4,0,0,0.0,0.1,37224536,2,37224582,0,3,x'0E000000000000006B03000000005EED');
--- after: SELECT "fiberTensileCoeff"||' '||"fiberCompressiveCoeff"||' '||"matrixTensileCoeff"||' '||"matrixCompressiveCoeff" FROM kmaC_DamageStabilization WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s',"fiberTensileCoeff","fiberCompressiveCoeff","matrixTensileCoeff","matrixCompressiveCoeff") FROM kmaC_DamageStabilization WHERE "##OID"=0
 -- is: 0.001 0.001 0.005 0.0055
--- after: SELECT "type"||' '||"degradation"||' '||"temperatureDependency"||' '||"dependencies"||' '||"mixedModeBehavior"||' '||"modeMixRatio"||' '||("power"=1.7976931348623157e308)||' '||"softening"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_DamageEvolution WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s:%s',"type","degradation","temperatureDependency","dependencies","mixedModeBehavior","modeMixRatio","power"=1.7976931348623157e308,"softening","table#ClassID","table#OID") FROM kmaC_DamageEvolution WHERE "##OID"=0
 -- is: ENERGY MAXIMUM 0 0 MODE_INDEPENDENT ENERGY 1 LINEAR 37224536:0
 -- after: SELECT count(*) FROM pragma_table_info('kmaC_DamageEvolution') WHERE name IN ('damageStabilization#ClassID','damageStabilization#OID')
 -- is: 0
--- after: SELECT "definition"||' '||"feq"||' '||"fnn"||' '||"fnt"||' '||"frequency"||' '||"ks"||' '||"numberImperfections"||' '||"temperatureDependency"||' '||"dependencies"||' '||"omega"||' '||"alpha"||' '||"table#ClassID"||':'||"table#OID"||' '||"damageEvolution#ClassID"||':'||"damageEvolution#OID" FROM kmaC_DamageInitiation WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s',"definition","feq","fnn","fnt","frequency","ks","numberImperfections","temperatureDependency","dependencies","omega","alpha","table#ClassID","table#OID","damageEvolution#ClassID","damageEvolution#OID") FROM kmaC_DamageInitiation WHERE "##OID"=0
 -- is: MSFLD 10.0 10.0 10.0 1 0.0 4 0 0 0.1 0.5 37224536:1 37224582:0
 -- after: SELECT ("damageStabilization#ClassID" IS NULL)||' '||"damageStabilization#OID" FROM kmaC_DamageInitiation WHERE "##OID"=0
 -- is: 1 0
--- after: SELECT "definition"||' '||"feq"||' '||"fnn"||' '||"fnt"||' '||"frequency"||' '||"ks"||' '||"numberImperfections"||' '||"temperatureDependency"||' '||"dependencies"||' '||"omega"||' '||"alpha"||' '||"table#ClassID"||':'||"table#OID"||' '||"damageEvolution#ClassID"||':'||"damageEvolution#OID" FROM kmaC_DamageInitiation WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s',"definition","feq","fnn","fnt","frequency","ks","numberImperfections","temperatureDependency","dependencies","omega","alpha","table#ClassID","table#OID","damageEvolution#ClassID","damageEvolution#OID") FROM kmaC_DamageInitiation WHERE "##OID"=1
 -- is: MSFLD 10.0 10.0 10.0 1 0.0 4 0 0 0.1 0.0 37224536:2 37224582:0
 -- after: SELECT ("damageStabilization#ClassID" IS NULL)||' '||"damageStabilization#OID" FROM kmaC_DamageInitiation WHERE "##OID"=1
 -- is: 1 0
@@ -360,11 +360,11 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
   VALUES(6,-1,x'19000000000000006B03000000005EED');
 INSERT INTO "kmaC_DamageInitiation"("##OID","definition","feq","fnn","fnt","frequency","ks","numberImperfections","temperatureDependency","dependencies","alpha","omega","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(3,'FLD',8.0,10.0,10.0,5,0.3,4,0,0,0.0,0.1,37224536,5,6,x'1A000000000000006B03000000005EED');
--- after: SELECT "type"||' '||"degradation"||' '||"temperatureDependency"||' '||"dependencies"||' '||"mixedModeBehavior"||' '||"modeMixRatio"||' '||"power"||' '||"softening"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_DamageEvolution WHERE "##OID"=1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s:%s',"type","degradation","temperatureDependency","dependencies","mixedModeBehavior","modeMixRatio","power","softening","table#ClassID","table#OID") FROM kmaC_DamageEvolution WHERE "##OID"=1
 -- is: DISPLACEMENT MULTIPLICATIVE 1 1 TABULAR TRACTION 2.0 EXPONENTIAL 37224536:3
--- after: SELECT "definition"||' '||"feq"||' '||"fnn"||' '||"fnt"||' '||"frequency"||' '||"ks"||' '||"numberImperfections"||' '||"temperatureDependency"||' '||"dependencies"||' '||"omega"||' '||"alpha"||' '||"table#ClassID"||':'||"table#OID"||' '||"damageEvolution#ClassID"||':'||"damageEvolution#OID"||' '||("damageStabilization#OID" IS NULL) FROM kmaC_DamageInitiation WHERE "##OID"=2
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s',"definition","feq","fnn","fnt","frequency","ks","numberImperfections","temperatureDependency","dependencies","omega","alpha","table#ClassID","table#OID","damageEvolution#ClassID","damageEvolution#OID","damageStabilization#OID" IS NULL) FROM kmaC_DamageInitiation WHERE "##OID"=2
 -- is: MSFLD 10.0 10.0 10.0 1 0.0 4 0 0 0.1 0.0 37224536:4 37224582:1 1
--- after: SELECT "definition"||' '||"feq"||' '||"fnn"||' '||"fnt"||' '||"frequency"||' '||"ks"||' '||"numberImperfections"||' '||"temperatureDependency"||' '||"dependencies"||' '||"omega"||' '||"alpha"||' '||"table#ClassID"||':'||"table#OID"||' '||("damageEvolution#OID" IS NULL)||' '||("damageStabilization#OID" IS NULL) FROM kmaC_DamageInitiation WHERE "##OID"=3
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s %s',"definition","feq","fnn","fnt","frequency","ks","numberImperfections","temperatureDependency","dependencies","omega","alpha","table#ClassID","table#OID","damageEvolution#OID" IS NULL,"damageStabilization#OID" IS NULL) FROM kmaC_DamageInitiation WHERE "##OID"=3
 -- is: FLD 8.0 10.0 10.0 5 0.3 4 0 0 0.1 0.0 37224536:5 1 1
 -- 0.1, 0.1, 1
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid")
@@ -376,15 +376,15 @@ INSERT INTO "kmaC_MaterialOption"("##OID","##BaseClassOID","##Uid")
 INSERT INTO "kmaC_Viscoelastic"("##OID","domain","frequency","type","preload","time","errtol","nmax","table#ClassID","table#OID","##BaseClassOID","##Uid")
   VALUES(0,'FREQUENCY','PRONY','ISOTROPIC','VOLUMETRIC','PRONY',0.01,13,37224536,6,7,x'1E000000000000006B03000000005EED');
 -- Its coating relaxes, under a volumetric preload.
--- after: SELECT "domain"||' '||"frequency"||' '||"type"||' '||"preload"||' '||"time"||' '||"errtol"||' '||"nmax"||' '||"table#ClassID"||':'||"table#OID" FROM kmaC_Viscoelastic WHERE "##OID"=0
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s',"domain","frequency","type","preload","time","errtol","nmax","table#ClassID","table#OID") FROM kmaC_Viscoelastic WHERE "##OID"=0
 -- is: FREQUENCY PRONY ISOTROPIC VOLUMETRIC PRONY 0.01 13 37224536:6
 INSERT INTO "kmaC_Material"("##OID","quadsDamageInitiation#ClassID","quadsDamageInitiation#OID","hashinDamageInitiation#ClassID","hashinDamageInitiation#OID","##BaseClassOID","##Uid")
   VALUES(0,37224581,1,37224581,0,-1,x'1F000000000000006B03000000005EED');
 INSERT INTO "kmaC_Material"("##OID","ductileDamageInitiation#ClassID","ductileDamageInitiation#OID","fldDamageInitiation#ClassID","fldDamageInitiation#OID","viscoelastic#ClassID","viscoelastic#OID","##BaseClassOID","##Uid")
   VALUES(1,37224581,2,37224581,3,37224533,0,-1,x'20000000000000006B03000000005EED');
--- after: SELECT "hashinDamageInitiation#ClassID"||':'||"hashinDamageInitiation#OID"||' '||"quadsDamageInitiation#ClassID"||':'||"quadsDamageInitiation#OID"||' '||("ductileDamageInitiation#OID" IS NULL)||' '||("mullinsEffect#OID" IS NULL)||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- after: SELECT printf('%s:%s %s:%s %s %s %s %s',"hashinDamageInitiation#ClassID","hashinDamageInitiation#OID","quadsDamageInitiation#ClassID","quadsDamageInitiation#OID","ductileDamageInitiation#OID" IS NULL,"mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
 -- is: 37224581:0 37224581:1 1 1 1 1
--- after: SELECT "ductileDamageInitiation#ClassID"||':'||"ductileDamageInitiation#OID"||' '||"fldDamageInitiation#ClassID"||':'||"fldDamageInitiation#OID"||' '||("hashinDamageInitiation#OID" IS NULL)||' '||"viscoelastic#ClassID"||':'||"viscoelastic#OID"||' '||("description"='')||' '||("materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
+-- after: SELECT printf('%s:%s %s:%s %s %s:%s %s %s',"ductileDamageInitiation#ClassID","ductileDamageInitiation#OID","fldDamageInitiation#ClassID","fldDamageInitiation#OID","hashinDamageInitiation#OID" IS NULL,"viscoelastic#ClassID","viscoelastic#OID","description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
 -- is: 37224581:2 37224581:3 1 37224533:0 1 1
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kmaC_Material','kmaC_DamageInitiation','kmaC_DamageEvolution','kmaC_Viscoelastic') ORDER BY ClassName
 -- is: kmaC_DamageEvolution:883 kmaC_DamageInitiation:883 kmaC_Material:1106 kmaC_Viscoelastic:876
