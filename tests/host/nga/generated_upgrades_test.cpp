@@ -9,6 +9,7 @@
 #include "support/OldFile.h"
 #include "support/OldGenerator.h"
 
+using old_test::ReadEveryRow;
 using store_test::Folder;
 
 namespace {
@@ -58,7 +59,7 @@ TEST_P(GeneratedUpgrades, LeaveEveryObjectUnderItsName) {
     for (auto const& [repository, names] : generated.names)
         EXPECT_EQ(NamesIn(*model, repository.c_str()), names) << repository;
     EXPECT_TRUE(nga::UpgradeFile(path).current);
-    old_test::ReadEveryRow(path);
+    ReadEveryRow(path);
     // Each connector behaviour is a row of its class of today.
     if (schema < 453) return;
     int connectors = 0;
