@@ -410,3 +410,42 @@ INSERT INTO "cls_MapEntry"("##OID","owner","key","value#ClassID","value#OID") VA
 INSERT INTO "cls_Map"("##OID","Target#Kind","##Uid") VALUES(2,2,x'2B000000000000000000000000005EED');
 UPDATE cls_Map SET "#First"=4,"#Count"=2 WHERE "##OID"=2;
 INSERT INTO "kbpC_BPCWrapper"("##OID","extension#ClassID","extension#OID","##BaseClassOID","##Uid") VALUES(0,2293762,2,-1,x'2C000000000000000000000000005EED');
+
+-- What the upgraded file has to answer: what stands behind "after:" is asked of it, what has to
+-- come out stands behind "is:".
+-- after: SELECT printf('%s %s %s %s %s %s %s %s:%s %s %s',"hardening","rate","dataType","strainRangeDependency","numBackstresses","temperatureDependency","dependencies","table#ClassID","table#OID","potential#OID" IS NULL,"annealTemperature#OID" IS NULL) FROM kmaC_Plastic WHERE "##OID"=0
+-- is: COMBINED 0 PARAMETERS 0 1 1 0 37224536:0 1 1
+-- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kmaC_Plastic o JOIN kmaC_MaterialTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0
+-- is: 4 0000000000406F40000000000082D4400000000000005E400000000000003440000000000080664000000000004CCD400000000000005E400000000000007940
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"type","userSubroutine","zero","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_Expansion WHERE "##OID"=0
+-- is: ISOTROPIC 1 20.0 1 0 37224536:1
+-- after: SELECT printf('%s %s %s:%s %s:%s %s %s',"temperatureDependency","dependencies","table#ClassID","table#OID","capCreepCohesion#ClassID","capCreepCohesion#OID","capCreepConsolidation#OID" IS NULL,"capHardening#OID" IS NULL) FROM kmaC_CapPlasticity WHERE "##OID"=0
+-- is: 0 0 37224536:3 37224574:0 1 1
+-- after: SELECT printf('%s %s %s %s:%s',"law","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_CapCreepCohesion WHERE "##OID"=0
+-- is: STRAIN 0 0 37224536:2
+-- after: SELECT count(*) FROM nga_Catalogue WHERE ClassName IN ('kmaC_CapCreep','kmaC_CapCreepConsolidation')
+-- is: 0
+-- after: SELECT printf('%s %s %s %s %s:%s',"smoothing","lateralNominalStrain","temperatureDependency","dependencies","table#ClassID","table#OID") FROM kmaC_UniaxialTestData WHERE "##OID"=0
+-- is: 2147483647 0 0 0 37224536:4
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s',"type","moduliTimeScale","temperatureDependency","n","beta"=1.7976931348623157e308,"testData","compressible","properties","deviatoricResponse","volumetricResponse","poissonRatio","table#ClassID","table#OID","uniaxialTestData#ClassID","uniaxialTestData#OID","hysteresis#OID" IS NULL) FROM kmaC_Hyperelastic WHERE "##OID"=0
+-- is: OGDEN LONG_TERM 0 3 1 1 0 0 UNIAXIAL DEFAULT 0.0 37224536:5 37224529:0 1
+-- after: SELECT printf('%s:%s %s:%s %s %s %s',"expansion#ClassID","expansion#OID","plastic#ClassID","plastic#OID","mullinsEffect#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=0
+-- is: 37224481:0 37224508:0 1 1 1
+-- after: SELECT printf('%s:%s %s %s %s',"capPlasticity#ClassID","capPlasticity#OID","plastic#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=1
+-- is: 37224460:0 1 1 1
+-- after: SELECT printf('%s:%s %s %s %s',"hyperelastic#ClassID","hyperelastic#OID","plastic#OID" IS NULL,"description"='',"materialIdentifier"='') FROM kmaC_Material WHERE "##OID"=2
+-- is: 37224494:0 1 1 1
+-- after: SELECT timeSpan FROM kamC_Amplitude
+-- is: TOTAL
+-- after: SELECT count(*) FROM pragma_table_info('kamC_Amplitude') WHERE name IN ('definition','time','value')
+-- is: 0
+-- after: SELECT printf('%s %s:%s %s',"smooth","data#ClassID","data#OID","baselineCorrection#OID" IS NULL) FROM kamC_Tabular WHERE "##OID"=0
+-- is: 0.25 2293761:6 1
+-- after: SELECT printf('%s %s %s %s %s %s %s',"a","b","uniformThickness","t1","t2","t3","t4") FROM kbpC_BoxProfile WHERE "##OID"=0
+-- is: 10.0 20.0 0 0.8 1.0 0.8 1.2
+-- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kbpC_ArbitraryProfile p JOIN cls_List l ON l."##OID"=p."table#OID"
+-- is: 3 000000000000000000000000000000000000000000000000000000000000F03F0000000000000000000000000000E03F00000000000000400000000000000000333333333333E33F
+-- after: SELECT count(*) FROM pragma_table_info('kbpC_ArbitraryProfile') WHERE name IN ('numSegments','x#OID','y#OID','t#OID')
+-- is: 0
+-- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kmaC_Material','kmaC_Plastic','kmaC_CapPlasticity','kmaC_Expansion','kmaC_Hyperelastic','kmaC_UniaxialTestData','kamC_Amplitude','kamC_Tabular','kbpC_BoxProfile','kbpC_ArbitraryProfile') ORDER BY ClassName
+-- is: kamC_Amplitude:430 kamC_Tabular:424 kbpC_ArbitraryProfile:505 kbpC_BoxProfile:430 kmaC_CapPlasticity:452 kmaC_Expansion:435 kmaC_Hyperelastic:864 kmaC_Material:1106 kmaC_Plastic:1107 kmaC_UniaxialTestData:324

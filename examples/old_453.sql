@@ -231,3 +231,48 @@ INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","#
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid") VALUES(6,2293761,17,-1,x'59000000000000000000000000005EED');
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(18,x'',1,54,x'5A000000000000000000000000005EED');
 INSERT INTO "kbeC_Damage"("##OID","criterion","initiationTemperature","initiationDependencies","initiationTable#ClassID","initiationTable#OID","evolution","evolutionType","softening","useAffected","affectedComponents#ClassID","affectedComponents#OID","degradation","evolutionTemperature","evolutionDependencies","evolutionTable#ClassID","evolutionTable#OID","##BaseClassOID","##Uid") VALUES(0,'FORCE',0,0,655374,5,1,'MOTION','LINEAR',0,2293761,18,'MAXIMUM',0,0,655374,6,7,x'5B000000000000000000000000005EED');
+
+-- What the upgraded file has to answer: what stands behind "after:" is asked of it, what has to
+-- come out stands behind "is:".
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s %s:%s',"behavior","coupling","dependencies","temperatureDependency","frequencyDependency","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorElasticity WHERE "##OID"=0
+-- is: LINEAR UNCOUPLED 0 0 0 655374:0 2293761:2 2293761:0
+-- after: SELECT printf('%s %s %s %s %s %s:%s %s:%s %s:%s',"behavior","coupling","dependencies","temperatureDependency","frequencyDependency","table#ClassID","table#OID","independentComponents#ClassID","independentComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorDamping WHERE "##OID"=0
+-- is: LINEAR UNCOUPLED 0 0 0 655374:1 2293761:5 2293761:3
+-- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kbeC_ConnectorElasticity o JOIN mdl_PropertyTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0 AND o."table#ClassID"=0xA000E
+-- is: 1 0000000000C09240
+-- after: SELECT l."Target#Columns"||' '||hex(l."Target#Handle") FROM kbeC_ConnectorDamping o JOIN mdl_PropertyTable t ON t."##OID"=o."table#OID" JOIN cls_List l ON l."##OID"=t."table#OID" WHERE o."##OID"=0 AND o."table#ClassID"=0xA000E
+-- is: 1 0000000000804140
+-- after: SELECT printf('%s %s %s:%s',"minMotion","maxMotion","components#ClassID","components#OID") FROM kbeC_ConnectorStop WHERE "##OID"=0
+-- is: -0.5 0.75 2293761:6
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"lockingComponent","minMotion"=1.7976931348623157e308,"maxMotion","minForce"=1.7976931348623157e308,"maxForce"=1.7976931348623157e308,"components#ClassID","components#OID") FROM kbeC_ConnectorLock WHERE "##OID"=0
+-- is: 2147483647 1 0.7 1 1 2293761:7
+-- after: SELECT printf('%s %s %s %s %s %s:%s',"releaseComponent","minMotion"=1.7976931348623157e308,"maxMotion"=1.7976931348623157e308,"minForce"=1.7976931348623157e308,"maxForce","components#ClassID","components#OID") FROM kbeC_ConnectorFailure WHERE "##OID"=0
+-- is: 3 1 1 1 50000.0 2293761:8
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorElasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamping o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorFriction o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."options#OID" WHERE o."##OID"=0 AND o."options#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."isotropicOptions#OID" WHERE o."##OID"=0 AND o."isotropicOptions#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorPlasticity o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."kinematicOptions#OID" WHERE o."##OID"=0 AND o."kinematicOptions#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT "isotropicOptions#OID"<>"kinematicOptions#OID" FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
+-- is: 1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."initiationOptions#OID" WHERE o."##OID"=0 AND o."initiationOptions#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s',p.useBehRegSettings,p.regularize,p.defaultTolerance,p.regularization,p.defaultRateFactor,p.rateFactor,p.interpolation,p.useBehExtSettings,p.extrapolation) FROM kbeC_ConnectorDamage o JOIN kbeC_ConnectorOptions p ON p."##OID"=o."evolutionOptions#OID" WHERE o."##OID"=0 AND o."evolutionOptions#ClassID"=0x2A8003E
+-- is: 1 1 1 0.03 1 0.9 LINEAR 1 CONSTANT
+-- after: SELECT "initiationOptions#OID"<>"evolutionOptions#OID" FROM kbeC_ConnectorDamage WHERE "##OID"=0
+-- is: 1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s %s:%s %s %s:%s %s',"frictionModel","slipStyle","tangentDirection","stickStiffness","componentType","slipDependency","temperatureDependency","dependencies","useContactForceComponent","contactForceStyle","forcePotentialOperator","forcePotentialExponent","table#ClassID","table#OID","tangentialBehavior#OID" IS NULL,"independentComponents#ClassID","independentComponents#OID","derivedComponent#OID" IS NULL) FROM kbeC_ConnectorFriction WHERE "##OID"=0
+-- is: USER_CUSTOMIZED SPECIFY 1 1000000.0 NO_INDEPENDENT_COMPONENTS 0 0 0 0 COMPONENT_NUMBER SUM 0.0 655374:2 1 2293761:11 1
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s',"coupling","isotropic","isotropicType","isotropicTemperature","isotropicDependencies","kinematic","kinematicType","kinematicTemperature","kinematicDependencies","forcePotentialOperator","forcePotentialExponent","isotropicTable#ClassID","isotropicTable#OID","kinematicTable#ClassID","kinematicTable#OID","components#ClassID","components#OID") FROM kbeC_ConnectorPlasticity WHERE "##OID"=0
+-- is: UNCOUPLED 1 TABULAR 0 0 0 HALF_CYCLE 0 0 SUM 0.0 655374:3 655374:4 2293761:12
+-- after: SELECT printf('%s %s %s %s %s %s %s %s %s %s %s %s %s %s %s %s:%s %s:%s %s:%s %s:%s',"coupling","criterion","initiationTemperature","initiationPotentialOperator","initiationPotentialExponent","initiationDependencies","evolution","evolutionType","softening","useAffected","degradation","evolutionTemperature","evolutionDependencies","evolutionPotentialOperator","evolutionPotentialExponent","initiationTable#ClassID","initiationTable#OID","evolutionTable#ClassID","evolutionTable#OID","affectedComponents#ClassID","affectedComponents#OID","components#ClassID","components#OID") FROM kbeC_ConnectorDamage WHERE "##OID"=0
+-- is: UNCOUPLED FORCE 0 SUM 0.0 0 1 MOTION_TYPE LINEAR 0 MAXIMUM 0 0 SUM 0.0 655374:5 655374:6 2293761:18 2293761:15
+-- after: SELECT count(*) FROM nga_Catalogue WHERE ClassName IN ('kbeC_Tabular','kbeC_MotionDiscontinuity','kbeC_Elasticity','kbeC_Damping','kbeC_Stops','kbeC_Lock','kbeC_Failure','kbeC_Friction','kbeC_Plasticity','kbeC_Damage')
+-- is: 0
+-- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kbeC_ConnectorBehaviorOption','kbeC_ConnectorElasticity','kbeC_ConnectorDamping','kbeC_ConnectorStop','kbeC_ConnectorLock','kbeC_ConnectorFailure','kbeC_ConnectorFriction','kbeC_ConnectorPlasticity','kbeC_ConnectorDamage','kbeC_ConnectorOptions') ORDER BY ClassName
+-- is: kbeC_ConnectorBehaviorOption:811 kbeC_ConnectorDamage:1022 kbeC_ConnectorDamping:1022 kbeC_ConnectorElasticity:1022 kbeC_ConnectorFailure:811 kbeC_ConnectorFriction:1022 kbeC_ConnectorLock:811 kbeC_ConnectorOptions:1026 kbeC_ConnectorPlasticity:1022 kbeC_ConnectorStop:811

@@ -30,4 +30,27 @@ inline void WriteFile(rfm_Database& store, std::string const& path, int schema) 
                               " WHERE TypeId=0");
 }
 
+/// Rebuilds the object of every row, also of those that no name leads to.
+inline void ReadEveryRow(std::string const& path) {
+    cls_ClassRegistrar const& registrar =
+        omi_Singleton<cls_MetadataRegistrar>::Instance().Domain(cls_DomainDatabase);
+    auto const database = nga::SqliteDatabase::Open(
+        path, static_cast<long long>(std::filesystem::file_size(path)),
+        [](nga::CatalogueEntry const&) { return std::optional<rfm_TableMetadata>(); });
+    for (rfm_Table* table : database->Tables()) {
+        cls_ClassMetadata const* const metadata = registrar.Find(table->Metadata().TypeId());
+        if (!metadata || !metadata->HasCtor()) continue;
+        rom_Transporter transporter(*database, registrar);
+        for (int oid = 0; oid < table->RowCount(); ++oid) {
+            try {
+                transporter.Read(metadata->TypeId(), oid);
+            } catch (nex_Exception const& failure) {
+                ADD_FAILURE() << metadata->Name().Text() << " row " << oid << ": "
+                              << failure.AsString().Text();
+                break;
+            }
+        }
+    }
+}
+
 }  // namespace old_test
