@@ -280,7 +280,7 @@ UPDATE cls_Map SET "#First"=2,"#Count"=1 WHERE "##OID"=1;
 INSERT INTO "kbeC_PotentialContainer"("##OID","map#ClassID","map#OID","##BaseClassOID","##Uid") VALUES(1,2293762,1,-1,x'81000000000000000000000000005EED');
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(12,x'01000000',1,54,x'82000000000000000000000000005EED');
 INSERT INTO "kbeC_ConnectorBehaviorOption"("##OID","components#ClassID","components#OID","##BaseClassOID","##Uid") VALUES(6,2293761,12,-1,x'83000000000000000000000000005EED');
-INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(13,x'0000000000005940000000000000000000000000008061407B14AE47E17A943F',2,82,x'84000000000000000000000000005EED');
+INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(13,x'00000000000059400000000000000000000000000000000000000000008061407B14AE47E17A943F0000000000000000',3,82,x'84000000000000000000000000005EED');
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid") VALUES(3,2293761,13,-1,x'85000000000000000000000000005EED');
 INSERT INTO "cls_List"("##OID","Target#Handle","Target#Columns","Target#Kind","##Uid") VALUES(14,x'',0,82,x'86000000000000000000000000005EED');
 INSERT INTO "mdl_PropertyTable"("##OID","table#ClassID","table#OID","##BaseClassOID","##Uid") VALUES(4,2293761,14,-1,x'87000000000000000000000000005EED');
@@ -364,3 +364,5 @@ INSERT INTO "kbeC_Damage"("##OID","criterion","initiationTemperature","initiatio
 -- is: 0
 -- after: SELECT ClassName||':'||Version FROM nga_Catalogue WHERE ClassName IN ('kbeC_ConnectorPotential','kbeC_ConnectorBehaviorOption','kbeC_ConnectorElasticity','kbeC_ConnectorDamping','kbeC_ConnectorStop','kbeC_ConnectorLock','kbeC_ConnectorFailure','kbeC_ConnectorFriction','kbeC_ConnectorPlasticity','kbeC_ConnectorDamage','kbeC_ConnectorOptions') ORDER BY ClassName
 -- is: kbeC_ConnectorBehaviorOption:811 kbeC_ConnectorDamage:1022 kbeC_ConnectorDamping:1022 kbeC_ConnectorElasticity:1022 kbeC_ConnectorFailure:811 kbeC_ConnectorFriction:1022 kbeC_ConnectorLock:811 kbeC_ConnectorOptions:1026 kbeC_ConnectorPlasticity:1022 kbeC_ConnectorPotential:836 kbeC_ConnectorStop:811
+-- What a potential calls by a name is lost, as the layouts of 811 had no place for it.
+-- finds: sections['recovered behaviors'].options[5]: kbe 37

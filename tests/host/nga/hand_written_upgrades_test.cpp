@@ -13,8 +13,9 @@
 
 // Databases of old schemas that were written by hand, as SQL. Each says beside its rows what has to
 // become of them: a line "-- after: SELECT ..." is asked of the upgraded file, and what follows "--
-// is:" on the next line is what has to come out. They are the second opinion on the registered
-// layouts, which is why nothing here takes a layout from the library.
+// is:" on the next line is what has to come out. A line "-- finds:" names a rule that an object
+// breaks afterwards, as it did in its time; all others keep theirs. They are the second opinion on
+// the registered layouts, which is why nothing here takes a layout from the library.
 
 using store_test::Contents;
 using store_test::Folder;
@@ -63,6 +64,16 @@ std::vector<Question> QuestionsOf(std::string const& sql) {
     return questions;
 }
 
+/// The rules that a file says will be found broken, a line each.
+std::string FindingsSaid(std::string const& sql) {
+    static std::string const says = "-- finds: ";
+    std::string said;
+    std::istringstream in(sql);
+    for (std::string line; std::getline(in, line);)
+        if (line.rfind(says, 0) == 0) said += line.substr(says.size()) + "\n";
+    return said;
+}
+
 std::string NameOf(std::string const& file) {
     std::filesystem::path const path(file);
     return path.parent_path().filename().string() + path.stem().string().substr(3);
@@ -90,6 +101,12 @@ TEST_P(HandWrittenUpgrades, BecomeWhatTheySay) {
     for (dbc_DanglingReport const& each : outcome.file.report.references.dangling)
         ADD_FAILURE() << each.className << " row " << each.firstRow << ": " << each.field
                       << " leads nowhere";
+    std::string found;
+    std::string const root = "documents['" + NameOf(GetParam()) + "'].";
+    for (nga::Finding const& each : outcome.findings)
+        found += each.path.substr(root.size()) + ": " + each.module + " " +
+                 std::to_string(each.code) + "\n";
+    EXPECT_EQ(found, FindingsSaid(Contents(GetParam())));
     old_test::ReadEveryRow(path);
     for (Question const& each : questions)
         EXPECT_EQ(SqlText(path, each.query), each.answer)

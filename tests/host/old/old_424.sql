@@ -692,3 +692,5 @@ INSERT INTO "kbpC_BPCWrapper"("##OID","extension#ClassID","extension#OID","##Bas
   VALUES(0,2293762,2,-1,x'4C00000000000000A801000000005EED');
 -- after: SELECT group_concat(e.key,', ') FROM kbpC_BPCWrapper w JOIN cls_MapEntry e ON e.owner=w."extension#OID"
 -- is: cross member, exhaust, rocker, roof bow, side rail
+-- The fourth wall of the box never had a thickness.
+-- finds: profiles['rocker']: kbp 11

@@ -608,3 +608,5 @@ INSERT INTO "kflC_FCWrapper"("##OID","extension#ClassID","extension#OID","##Base
   VALUES(0,2293762,5,-1,x'56000000000000005802000000005EED');
 -- after: SELECT group_concat(e.key,', ') FROM kflC_FCWrapper w JOIN cls_MapEntry e ON e.owner=w."extension#OID"
 -- is: CFC 60, accelerometer, load cell
+-- The name of a derived component leads to nothing any more.
+-- finds: sections['recovered behaviors'].options[5]: kbe 37
