@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -148,8 +149,11 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         if (outcome.unreadable.empty()) nga::Document::Open(world.output);
     } catch (nga::StoreError const& error) {
         // The file and a cause, and no half of a result.
-        if (error.Cause().empty() || error.Path() != world.path) std::abort();
-        if (std::filesystem::exists(world.output)) std::abort();
+        if (error.Cause().empty() || error.Path() != world.path ||
+            std::filesystem::exists(world.output)) {
+            std::fprintf(stderr, "%s\n", error.what());
+            std::abort();
+        }
     }
     if (Contents(world.path) != bytes) std::abort();
     return 0;

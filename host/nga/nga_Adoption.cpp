@@ -11,6 +11,7 @@
 #include "klcC_LoadCase.h"
 #include "nga_ConnectorSection.h"
 #include "nga_HostExtension.h"
+#include "nga_SingleReader.h"
 #include "nga_StoredFile.h"
 #include "rom_Transporter.h"
 
@@ -39,6 +40,11 @@ public:
     StoredRow& Int(char const* column, long long value) {
         return Set(column, rfm_Value::OfInt(value));
     }
+    /// A number, or none.
+    StoredRow& Set(char const* column, rfm_Value const& value) {
+        Keep(Place(column), value);
+        return *this;
+    }
     StoredRow& Text(char const* column, std::string const& value) {
         return Set(column, rfm_Value::OfText(value.data(), static_cast<int>(value.size())));
     }
@@ -58,10 +64,6 @@ public:
 private:
     std::size_t Place(char const* column) const {
         return static_cast<std::size_t>(m_table.Metadata().Find(cow_String(column)));
-    }
-    StoredRow& Set(char const* column, rfm_Value const& value) {
-        Keep(Place(column), value);
-        return *this;
     }
     // What the value points at lives no longer than the cursor or the caller's text.
     void Keep(std::size_t place, rfm_Value value) {
@@ -88,31 +90,12 @@ class RepositoryNames {
 public:
     RepositoryNames(rfm_Database& database, unsigned extension, char const* field)
         : m_database(database), m_extension(extension), m_field(field) {
-        rfm_Table* const table = database.FindTable(extension);
-        if (!table || table->RowCount() == 0) return;
-        StoredRow const row(*table, 0);
-        rfm_Value const map = row.Value((m_field + "#OID").c_str());
-        if (map.tag != rfm_Value::Int) return;
-        m_map = static_cast<int>(map.integer);
-        StoredRow const counts(TableOf(database, cls_MapTypeId), m_map);
-        rfm_Table& entries = TableOf(database, rom_Layout::mapEntryTypeId);
-        long long const first = counts.Value("#First").integer;
-        long long const count = counts.Value("#Count").integer;
-        if (first < 0 || count < 0 || first + count > entries.RowCount())
-            dbc_Fail("Row " + std::to_string(m_map) +
-                     " of table cls_Map has a count that is out of range.");
-        m_first = static_cast<int>(first);
-        m_count = static_cast<int>(count);
-        for (int oid = m_first; oid < m_first + m_count; ++oid) {
-            StoredRow const entry(entries, oid);
-            rfm_Value const key = entry.Value("key");
-            if (key.tag != rfm_Value::Text) continue;
-            m_entries.push_back({std::string(key.text, static_cast<std::size_t>(key.length)),
-                                 static_cast<unsigned>(entry.Value("value#ClassID").integer),
-                                 static_cast<int>(entry.Value("value#OID").integer)});
-            m_known.insert(m_entries.back().name);
-        }
+        m_isWhole = Read();
     }
+
+    /// Whether the names could be read one and all. Written anew, a damaged one would be gone or
+    /// look whole.
+    bool IsWhole() const { return m_isWhole; }
 
     /// The name, or the first free one with a number behind it.
     std::string Free(std::string const& name, bool numbered) {
@@ -121,7 +104,7 @@ public:
         return name + " " + std::to_string(m_number);
     }
     void Add(std::string const& name, unsigned typeId, int oid) {
-        m_entries.push_back({name, typeId, oid});
+        m_entries.push_back({name, rfm_Value::OfInt(typeId), rfm_Value::OfInt(oid)});
         m_known.insert(name);
     }
 
@@ -142,7 +125,8 @@ public:
             StoredRow(entries)
                 .Int("owner", m_map)
                 .Text("key", each.name)
-                .Reference("value", each.typeId, each.oid)
+                .Set("value#ClassID", each.typeId)
+                .Set("value#OID", each.oid)
                 .Append();
         int const count = static_cast<int>(m_entries.size());
         if (!isNew) {
@@ -169,9 +153,49 @@ public:
 private:
     struct Entry {
         std::string name;
-        unsigned typeId;
-        int oid;
+        rfm_Value typeId;  ///< none of a name that leads to nothing
+        rfm_Value oid;
     };
+
+    bool Read() {
+        rfm_Table* const table = m_database.FindTable(m_extension);
+        if (!table || table->RowCount() == 0) return true;
+        StoredRow const row(*table, 0);
+        rfm_Value const map = row.Value((m_field + "#OID").c_str());
+        if (map.tag == rfm_Value::Null) return true;
+        rfm_Table& maps = TableOf(m_database, cls_MapTypeId);
+        rfm_Table& entries = TableOf(m_database, rom_Layout::mapEntryTypeId);
+        if (map.tag != rfm_Value::Int || map.integer < 0 || map.integer >= maps.RowCount())
+            return false;
+        m_map = static_cast<int>(map.integer);
+        StoredRow const counts(maps, m_map);
+        long long const first = counts.Value("#First").integer;
+        long long const count = counts.Value("#Count").integer;
+        if (first < 0 || count < 0 || first > entries.RowCount() ||
+            count > entries.RowCount() - first)
+            return false;
+        m_first = static_cast<int>(first);
+        m_count = static_cast<int>(count);
+        for (int oid = m_first; oid < m_first + m_count; ++oid) {
+            StoredRow const entry(entries, oid);
+            rfm_Value const owner = entry.Value("owner");
+            rfm_Value const key = entry.Value("key");
+            rfm_Value const typeId = entry.Value("value#ClassID");
+            rfm_Value const target = entry.Value("value#OID");
+            if (owner.tag != rfm_Value::Int || owner.integer != m_map ||
+                key.tag != rfm_Value::Text || !IsNumberOrNone(typeId) || !IsNumberOrNone(target))
+                return false;
+            m_entries.push_back(
+                {std::string(key.text, static_cast<std::size_t>(key.length)), typeId, target});
+            m_known.insert(m_entries.back().name);
+        }
+        return true;
+    }
+    static bool IsNumberOrNone(rfm_Value const& value) {
+        return value.tag == rfm_Value::Int || value.tag == rfm_Value::Null;
+    }
+
+    bool m_isWhole;
     rfm_Database& m_database;
     unsigned m_extension;
     std::string m_field;
@@ -183,20 +207,46 @@ private:
     std::set<std::string> m_known;
 };
 
-/// The classes of the list whose objects are of a kind; they are taken out of it.
-std::vector<dbc_UnreferencedReport> TakeKind(dbc_References& references, unsigned kind) {
-    std::vector<dbc_UnreferencedReport> taken;
-    std::vector<dbc_UnreferencedReport> left;
-    for (dbc_UnreferencedReport& each : references.unreferenced)
-        (StoredClasses().IsParent(each.typeId, kind) ? taken : left).push_back(std::move(each));
-    references.unreferenced = std::move(left);
-    return taken;
-}
-
 template <class Do>
 void EachRow(dbc_UnreferencedReport const& report, Do work) {
     for (std::size_t row = 0; row < report.reached.size(); ++row)
         if (!report.reached[row]) work(static_cast<int>(row));
+}
+
+/// What the list has of a kind and can be read. An object that cannot be would keep the whole
+/// document from being read once a name leads to it.
+std::vector<dbc_UnreferencedReport> ReadableOf(rfm_Database& database,
+                                               dbc_References const& references, unsigned kind) {
+    std::vector<dbc_UnreferencedReport> result;
+    SingleReader reader(database);
+    std::string ignored;
+    for (dbc_UnreferencedReport const& each : references.unreferenced) {
+        if (!StoredClasses().IsParent(each.typeId, kind)) continue;
+        dbc_UnreferencedReport readable{each.typeId, each.className, 0, 0, {}};
+        readable.reached.assign(each.reached.size(), true);
+        EachRow(each, [&](int oid) {
+            if (!reader.Read(each.typeId, oid, ignored)) return;
+            if (readable.rows++ == 0) readable.firstRow = oid;
+            readable.reached[static_cast<std::size_t>(oid)] = false;
+        });
+        if (readable.rows > 0) result.push_back(std::move(readable));
+    }
+    return result;
+}
+
+/// Takes out of the list what got a name.
+void Strike(dbc_References& references, std::vector<dbc_UnreferencedReport> const& named) {
+    for (dbc_UnreferencedReport const& each : named)
+        for (dbc_UnreferencedReport& listed : references.unreferenced) {
+            if (listed.typeId != each.typeId) continue;
+            EachRow(each, [&](int oid) { listed.reached[static_cast<std::size_t>(oid)] = true; });
+            listed.rows = 0;
+            EachRow(listed, [&](int oid) {
+                if (listed.rows++ == 0) listed.firstRow = oid;
+            });
+        }
+    std::erase_if(references.unreferenced,
+                  [](dbc_UnreferencedReport const& each) { return each.rows == 0; });
 }
 
 // What new rows take their identities from: that of the first object.
@@ -209,14 +259,15 @@ std::string SeedOf(rfm_Database& database, dbc_UnreferencedReport const& report)
     return seed;
 }
 
-void AdoptBehaviors(rfm_Database& database, std::vector<dbc_UnreferencedReport> const& behaviors,
+bool AdoptBehaviors(rfm_Database& database, std::vector<dbc_UnreferencedReport> const& behaviors,
                     std::vector<Adopted>& adopted) {
+    RepositoryNames names(database, nga_CSWrapper::TypeId(), "extension");
+    if (!names.IsWhole()) return false;
     std::string const seed = SeedOf(database, behaviors.front()) + ".section";
     rfm_Table& entries = TableOf(database, rom_Layout::listEntryTypeId);
     rfm_Table& lists = TableOf(database, cls_ListTypeId);
     int const list = lists.RowCount();
     int const first = entries.RowCount();
-    RepositoryNames names(database, nga_CSWrapper::TypeId(), "extension");
     std::string const name = names.Free(recoveredSection, false);
     for (dbc_UnreferencedReport const& each : behaviors) {
         EachRow(each, [&](int oid) {
@@ -239,12 +290,14 @@ void AdoptBehaviors(rfm_Database& database, std::vector<dbc_UnreferencedReport> 
                             .Append();
     names.Add(name, nga_ConnectorSection::TypeId(), section);
     names.Store(seed);
+    return true;
 }
 
-void AdoptLoadCases(rfm_Database& database, std::vector<dbc_UnreferencedReport> const& loadCases,
+bool AdoptLoadCases(rfm_Database& database, std::vector<dbc_UnreferencedReport> const& loadCases,
                     std::vector<Adopted>& adopted) {
     std::string const collection = klcC_LoadCase::loadCaseCmd().Text();
     RepositoryNames names(database, HostExtension::TypeId(), collection.c_str());
+    if (!names.IsWhole()) return false;
     for (dbc_UnreferencedReport const& each : loadCases) {
         std::string firstName;
         EachRow(each, [&](int oid) {
@@ -255,16 +308,19 @@ void AdoptLoadCases(rfm_Database& database, std::vector<dbc_UnreferencedReport> 
         adopted.push_back({each.className, each.rows, collection, firstName});
     }
     names.Store(SeedOf(database, loadCases.front()) + ".loadCases");
+    return true;
 }
 
 }  // namespace
 
 std::vector<Adopted> Adopt(rfm_Database& database, dbc_References& references) {
     std::vector<Adopted> adopted;
-    auto const behaviors = TakeKind(references, kbeC_ConnectorBehaviorOption::TypeId());
-    if (!behaviors.empty()) AdoptBehaviors(database, behaviors, adopted);
-    auto const loadCases = TakeKind(references, klcC_LoadCase::TypeId());
-    if (!loadCases.empty()) AdoptLoadCases(database, loadCases, adopted);
+    auto const behaviors = ReadableOf(database, references, kbeC_ConnectorBehaviorOption::TypeId());
+    if (!behaviors.empty() && AdoptBehaviors(database, behaviors, adopted))
+        Strike(references, behaviors);
+    auto const loadCases = ReadableOf(database, references, klcC_LoadCase::TypeId());
+    if (!loadCases.empty() && AdoptLoadCases(database, loadCases, adopted))
+        Strike(references, loadCases);
     return adopted;
 }
 

@@ -19,7 +19,8 @@ struct Adopted {
 /// Gives names to objects of an upgraded database that none leads to, where this document has a
 /// place for their kind: behaviours of connectors come together in one section, each load case
 /// gets a name of its own. Programs of old kept what referred to them elsewhere. Takes what got a
-/// name out of the list; the others stay in it.
+/// name out of the list; the others stay in it, and with them what cannot be read, or could get its
+/// name only into a damaged list of names.
 ///
 /// New rows have identities that follow from what they hold, so that an upgrade gives the same file
 /// whenever it runs.

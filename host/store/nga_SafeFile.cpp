@@ -126,6 +126,7 @@ void SafeFile::Make() {
         }
         m_part.path = std::move(part);
         m_part.file = file;
+        m_part.cleanup.Begin(m_part.path);
         if (replaces) {
             // Only the superuser can give a file away; for others it stays their own.
             if (fchown(file, former.st_uid, former.st_gid) != 0) errno = 0;
@@ -168,6 +169,7 @@ FileStamp SafeFile::Commit() {
     }
     if (done != 0 && std::rename(m_part.path.c_str(), m_target.c_str()) != 0)
         Fail("the new file cannot take its place", errno);
+    m_part.cleanup.End();
     m_part.path.clear();
     FileStamp const stamp = FileStamp::OfOpen(m_part.file);
     int const folder = open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "nga_FileStamp.h"
+#include "nga_SignalCleanup.h"
 
 namespace nga {
 
@@ -10,8 +11,8 @@ namespace nga {
 /// whole old file until Commit, and the whole new one after. Until then it has a name of its own in
 /// the same folder, which goes with this object.
 ///
-/// The name is ".NAME.PID-N.nga-part". A process that is killed leaves it behind; the next save to
-/// the same target removes it, as nobody holds its lock any more.
+/// The name is ".NAME.PID-N.nga-part". A signal that ends the process takes it along; a kill leaves
+/// it behind, and the next save to the same target removes it, as nobody holds its lock any more.
 ///
 /// Failures are raised as StoreError under the path that was given.
 class SafeFile {
@@ -31,12 +32,15 @@ public:
     /// Writes all to the disk and takes the target's place, provided that this is still as \ref
     /// Former has it. Gives the state of the new file.
     FileStamp Commit();
+    /// Whether the new file stands in its place, also where \ref Commit failed behind that.
+    bool TookPlace() const { return m_part.path.empty(); }
 
 private:
     /// The file in the making; a member, so that it goes when the constructor fails as well.
     struct Part {
         std::string path;  ///< empty before it is made and after it took the target's place
         int file = -1;
+        SignalCleanup cleanup;
 
         Part() = default;
         ~Part();

@@ -2,13 +2,11 @@
 
 #include <dirent.h>
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -22,41 +20,6 @@ namespace {
 
 constexpr char const namePrefix[] = "nga-dry-run-";
 constexpr int scratchNamesAtMost = 100;
-constexpr int endings[] = {SIGHUP, SIGINT, SIGTERM};
-
-// For the handler, which may use nothing that the process holds elsewhere.
-char pathOfSignals[PATH_MAX];
-
-extern "C" void EndWithoutScratch(int signal) {
-    unlink(pathOfSignals);
-    // This handler is gone by now, so that the signal ends the process as it would have.
-    raise(signal);
-}
-
-void WatchSignals(std::string const& path) {
-    if (path.size() >= sizeof pathOfSignals) return;
-    std::memcpy(pathOfSignals, path.c_str(), path.size() + 1);
-    for (int signal : endings) {
-        struct sigaction former;
-        if (sigaction(signal, nullptr, &former) != 0 || former.sa_handler != SIG_DFL) continue;
-        struct sigaction own = {};
-        own.sa_handler = EndWithoutScratch;
-        own.sa_flags = static_cast<int>(SA_RESETHAND);
-        sigemptyset(&own.sa_mask);
-        sigaction(signal, &own, nullptr);
-    }
-}
-
-void UnwatchSignals() {
-    for (int signal : endings) {
-        struct sigaction former;
-        if (sigaction(signal, nullptr, &former) != 0 || former.sa_handler != EndWithoutScratch)
-            continue;
-        struct sigaction byDefault = {};
-        byDefault.sa_handler = SIG_DFL;
-        sigaction(signal, &byDefault, nullptr);
-    }
-}
 
 struct ScratchFolderCloser {
     void operator()(DIR* folder) const { closedir(folder); }
@@ -90,7 +53,7 @@ ScratchFile::ScratchFile(std::string const& of) {
     if (!made)
         throw StoreError(
             of, std::string("there is no room for a scratch copy: ") + std::strerror(errno));
-    WatchSignals(m_path);
+    m_cleanup.Begin(m_path);
 }
 
 bool ScratchFile::Make(std::string const& folder) {
@@ -108,7 +71,6 @@ bool ScratchFile::Make(std::string const& folder) {
 
 ScratchFile::~ScratchFile() {
     unlink(m_path.c_str());
-    UnwatchSignals();
     close(m_file);
 }
 

@@ -2,13 +2,13 @@
 
 #include <string>
 
+#include "nga_SignalCleanup.h"
+
 namespace nga {
 
 /// A file in the folder for such, which goes with this object, and with the process where a signal
 /// to end comes that nobody else handles. What a kill leaves behind is removed by the next one of
 /// the same user, as nobody holds its lock any more.
-///
-/// One at a time: handlers of signals belong to the whole process.
 class ScratchFile {
 public:
     /// Raises StoreError for the file \p of, whose copy this is to be.
@@ -23,6 +23,7 @@ private:
 
     std::string m_path;
     int m_file = -1;
+    SignalCleanup m_cleanup;
 };
 
 }  // namespace nga

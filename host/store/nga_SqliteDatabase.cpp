@@ -6,6 +6,7 @@
 
 #include "nex_TextException.h"
 #include "nga_SqliteTable.h"
+#include "rom_Transporter.h"
 
 namespace nga {
 
@@ -101,9 +102,16 @@ std::unique_ptr<SqliteDatabase> SqliteDatabase::Open(std::string const& path, lo
 std::unique_ptr<SqliteDatabase> SqliteDatabase::Continue(std::string const& path,
                                                          long long fileSize) {
     std::unique_ptr<SqliteDatabase> result(new SqliteDatabase);
-    result->m_layoutOf = [](CatalogueEntry const&) { return std::optional<rfm_TableMetadata>(); };
+    result->m_layoutOf = LayoutOfCollection;
     InStoreTerms([&] { result->StartContinue(path, fileSize); });
     return result;
+}
+
+std::optional<rfm_TableMetadata> SqliteDatabase::LayoutOfCollection(CatalogueEntry const& entry) {
+    for (rfm_TableMetadata const& layout : {rom_Layout::OfList(), rom_Layout::OfMap(),
+                                            rom_Layout::OfListEntry(), rom_Layout::OfMapEntry()})
+        if (layout.TypeId() == entry.typeId && layout.Version() == entry.version) return layout;
+    return std::nullopt;
 }
 
 // The file is nobody else's until it is complete, so nothing protects it on the way there.
@@ -148,10 +156,13 @@ void SqliteDatabase::StartContinue(std::string const& path, long long fileSize) 
 
 // A view or a trigger over a table would hinder its successor.
 void SqliteDatabase::DropAllButTables() {
-    std::string const ours = std::string("cls_MapEntry#owner#key");
+    // As \ref AddIndex makes it.
+    std::string const ours =
+        "CREATE INDEX \"cls_MapEntry#owner#key\" ON "
+        "\"cls_MapEntry\"(\"owner\",\"key\")";
     for (auto const& [name, row] : m_schema)
-        if ((row.type == "view" || row.type == "trigger" || row.type == "index") && name != ours &&
-            !row.sql.empty())
+        if ((row.type == "view" || row.type == "trigger" || row.type == "index") &&
+            row.sql != ours && !row.sql.empty())
             m_connection.Execute("DROP " + row.type + " IF EXISTS " + SqlName(name));
 }
 

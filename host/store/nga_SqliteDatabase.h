@@ -40,6 +40,9 @@ public:
     /// table's own is taken.
     using LayoutOf = std::function<std::optional<rfm_TableMetadata>(CatalogueEntry const&)>;
 
+    /// The layout of collections, which is the same at every version; none for a class.
+    static std::optional<rfm_TableMetadata> LayoutOfCollection(CatalogueEntry const& entry);
+
     /// Starts to fill an empty file.
     static std::unique_ptr<SqliteDatabase> Build(std::string const& path);
     /// Goes on with a file that is nobody else's: its tables can be added to and replaced. What

@@ -6,6 +6,7 @@
 #include "mdl_Repository.h"
 #include "nex_Exception.h"
 #include "nga_SafeFile.h"
+#include "nga_SingleReader.h"
 #include "nga_SqliteDatabase.h"
 #include "nga_StoredFile.h"
 #include "rom_Transporter.h"
@@ -142,30 +143,14 @@ std::unique_ptr<ddr_Model> LoadModel(std::string const& path, FileStamp* stamp,
 
 namespace {
 
-/// Reads objects one by one, and keeps none of them for long.
-class SingleReader {
-public:
-    explicit SingleReader(rfm_Database& database) : m_transporter(database, StoredClasses()) {}
-
-    /// None, with the cause, where the object cannot be read.
-    std::optional<cow_ErasedHandle> Read(unsigned typeId, int oid, std::string& failure) {
-        // What objects share is read once as long as it is not forgotten.
-        if (++m_read % forgetAfter == 0) m_transporter.Forget();
-        try {
-            return m_transporter.Read(typeId, oid);
-        } catch (nex_Exception const& exception) {
-            std::string const place = m_transporter.FailedAt();
-            failure = (place.empty() ? "" : place + ": ") + TextOf(exception);
-            m_transporter.Forget();
-            return std::nullopt;
-        }
-    }
-
-private:
-    static constexpr int forgetAfter = 256;
-    rom_Transporter m_transporter;
-    int m_read = 0;
-};
+// A repository is read with its own identity, as objects are with theirs.
+void RequireIdentity(StoredFile const& file, rfm_Table& table, rfm_Cursor& row) {
+    rfm_Value const uid = row.Value(table.Metadata().Find("##Uid"));
+    if (uid.tag != rfm_Value::Null &&
+        (uid.tag != rfm_Value::Bytes || uid.length != cls_Uid::byteCount))
+        file.Fail("row " + std::to_string(row.Oid()) + " of table " +
+                  table.Metadata().Name().Text() + " has an identity that is not 16 bytes");
+}
 
 // Hands over the entries of a map from names: the name, the class and the row, which is -1 where
 // the name leads to none.
@@ -174,7 +159,8 @@ void EachEntry(StoredFile const& file, rfm_Database& database, int map,
     rfm_Table* const maps = database.FindTable(cls_MapTypeId);
     rfm_Table* const entries = database.FindTable(rom_Layout::mapEntryTypeId);
     std::unique_ptr<rfm_Cursor> const at = maps ? maps->OpenCursor() : nullptr;
-    if (!at || !at->Seek(map) ||
+    if (at && at->Seek(map)) RequireIdentity(file, *maps, *at);
+    if (!at || at->Oid() != map ||
         at->Value(rom_Layout::MapKind).integer != static_cast<long long>(cls_CollectionMapString))
         file.Fail("a repository has no map of names");
     long long const first = at->Value(rom_Layout::MapFirst).integer;
@@ -202,10 +188,11 @@ void EachEntry(StoredFile const& file, rfm_Database& database, int map,
 }
 
 // Hands over the map of each repository in an extension's row, with the repository's name.
-void EachMap(rfm_Table& table, cow_String const& extension,
+void EachMap(StoredFile const& file, rfm_Table& table, cow_String const& extension,
              std::function<void(std::string const&, int)> const& each) {
     std::unique_ptr<rfm_Cursor> const row = table.OpenCursor();
     if (!row->Seek(0)) return;
+    RequireIdentity(file, table, *row);
     rfm_TableMetadata const& layout = table.Metadata();
     for (int i = 0; i + 1 < layout.ColumnCount(); ++i) {
         std::string const column = layout.Columns()[static_cast<std::size_t>(i)].name.Text();
@@ -235,7 +222,7 @@ std::vector<UnreadableObject> FindUnreadable(
             [&](cow_String const& extension, mdl_Extension const& prototype) {
                 rfm_Table* const table = ExtensionTable(file, *database, prototype);
                 if (!table) return;
-                EachMap(*table, extension, [&](std::string const& collection, int map) {
+                EachMap(file, *table, extension, [&](std::string const& collection, int map) {
                     EachEntry(file, *database, map,
                               [&](std::string const& key, unsigned typeId, int oid) {
                                   failure = "a name without an object";

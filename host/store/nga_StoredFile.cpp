@@ -45,6 +45,16 @@ std::string TextOf(CatalogueEntry const& entry) {
     return "class " + entry.className + " (" + HexOf(entry.typeId) + ")";
 }
 
+/// A word as a shell takes it back.
+std::string ShellWord(std::string const& text) {
+    constexpr char const plain[] =
+        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_./+,:@%=-";
+    if (!text.empty() && text.find_first_not_of(plain) == std::string::npos) return text;
+    std::string word = "'";
+    for (char letter : text) word += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
+    return word + "'";
+}
+
 class Descriptor {
 public:
     explicit Descriptor(int file) : m_file(file) {}
@@ -109,19 +119,16 @@ std::unique_ptr<SqliteDatabase> StoredFile::Open() const {
 }
 
 std::unique_ptr<SqliteDatabase> StoredFile::OpenOld() const {
-    auto database = SqliteDatabase::Open(m_path, m_stamp.size, [](CatalogueEntry const&) {
-        return std::optional<rfm_TableMetadata>();
-    });
+    auto database = SqliteDatabase::Open(m_path, m_stamp.size, SqliteDatabase::LayoutOfCollection);
     std::string const written = Written(*database);
     CheckSchema(written);
     for (CatalogueEntry const& entry : database->Catalogue()) {
         std::optional<Registered> const known = Known(entry.typeId);
         // What never had another layout may bear its number in any file.
         if (!known || known->version != entry.version) CheckVersion(entry, written);
-        if (!known && !IsOld(entry.typeId))
-            Fail("it holds " + TextOf(entry) + ", which this nga does not know");
-        if (known && (entry.className != known->name || entry.version > known->version) &&
-            !IsOld(entry.typeId))
+        bool const isOld = IsOld(entry);
+        if (!known && !isOld) Fail("it holds " + TextOf(entry) + ", which this nga does not know");
+        if (known && (entry.className != known->name || entry.version > known->version) && !isOld)
             Fail("the catalogue of classes does not fit " + TextOf(entry));
     }
     return database;
@@ -180,11 +187,10 @@ void StoredFile::CheckClass(CatalogueEntry const& entry, std::string const& writ
     if (IsCurrent(entry)) return;
     std::optional<Registered> const known = Known(entry.typeId);
     std::string const what = TextOf(entry);
-    std::string const remedy =
-        "; to bring it to schema " + std::to_string(currentSchema) + ", run: nga upgrade " + m_path;
+    std::string const remedy = "; to bring it to schema " + std::to_string(currentSchema) +
+                               ", run: nga upgrade " + ShellWord(m_path);
     if (!known) {
-        if (Schema() < currentSchema && IsOld(entry.typeId))
-            Fail(written + " and holds " + what + ", which is gone" + remedy);
+        if (IsOld(entry)) Fail(written + " and holds " + what + ", which is gone" + remedy);
         Fail("it holds " + what + ", which this nga does not know");
     }
     if (entry.version < known->version)
@@ -205,12 +211,13 @@ std::optional<StoredFile::Registered> StoredFile::Known(unsigned typeId) {
                       metadata->ParentTypeId()};
 }
 
-bool StoredFile::IsOld(unsigned typeId) {
+bool StoredFile::IsOld(CatalogueEntry const& entry) {
     auto const& registrar = omi_Singleton<dbc_OldClassRegistrar>::Instance();
-    for (dbc_OldClassRegistrar::Entry const& entry : registrar.Entries()) {
+    for (dbc_OldClassRegistrar::Entry const& registered : registrar.Entries()) {
         cls_ClassRegistrar own;
-        entry.holder->GetRef().InitializeMetadata(own);
-        if (own.Find(typeId)) return true;
+        registered.holder->GetRef().InitializeMetadata(own);
+        cls_ClassMetadata const* const old = own.Find(entry.typeId);
+        if (old && old->Name().View() == entry.className) return true;
     }
     return false;
 }

@@ -34,6 +34,9 @@ public:
     void CheckUnchanged() const;
     [[noreturn]] void Fail(std::string const& cause) const;
 
+    /// Whether this build has the class, in whatever version, or it is a collection.
+    static bool IsKnown(unsigned typeId) { return Known(typeId).has_value(); }
+
 private:
     /// What this build holds of a class, without its fields.
     struct Registered {
@@ -43,7 +46,8 @@ private:
     };
     static std::optional<Registered> Known(unsigned typeId);
     static std::optional<rfm_TableMetadata> LayoutOf(CatalogueEntry const& entry);
-    static bool IsOld(unsigned typeId);
+    /// Whether the class was there once, under this name.
+    static bool IsOld(CatalogueEntry const& entry);
     static bool IsCurrent(CatalogueEntry const& entry);
     std::string Written(SqliteDatabase const& database) const;
     void CheckHeader() const;

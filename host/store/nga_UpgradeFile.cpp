@@ -150,6 +150,13 @@ dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
                             omi_Singleton<dbc_OldClassRegistrar>::Instance(), options);
         report = upgrade.Run();
     }
+    for (rfm_Table const* table : database->Tables()) {
+        rfm_TableMetadata const& layout = table->Metadata();
+        if (!StoredFile::IsKnown(layout.TypeId()))
+            work.file.Fail("it holds class " + std::string(layout.Name().View()) + " in version " +
+                           std::to_string(layout.Version()) +
+                           ", from which nothing leads to a class of today");
+    }
     // What comes now goes over the rows once more each.
     auto const progress = [&](double done) {
         if (work.options.progress) work.options.progress(done);
@@ -163,7 +170,9 @@ dbc_UpgradeReport Convert(Work const& work, std::string const& part) {
             return each.typeId == extension.DynTypeId();
         });
     });
-    if (work.options.adopt) work.options.adopt(*database, report.references);
+    // A file of today is only copied.
+    if (work.options.adopt && !work.file.IsCurrent())
+        work.options.adopt(*database, report.references);
     database->AddIndex(rom_Layout::mapEntryTypeId, rom_Layout::MapEntryOwner,
                        rom_Layout::MapEntryKey);
     database->Finish();
@@ -200,7 +209,8 @@ UpgradedFile BringToCurrent(std::string const& path, UpgradeFileOptions const& o
     try {
         target.Commit();
     } catch (...) {
-        if (!result.backup.empty()) unlink(result.backup.c_str());
+        // Once the new file is there, this is the only old one.
+        if (!result.backup.empty() && !target.TookPlace()) unlink(result.backup.c_str());
         throw;
     }
     return result;

@@ -149,6 +149,7 @@ void dbc_RowRfm::Store() {
         if (oid != m_oid) dbc_Fail(Where() + " was stored under another number.");
         m_new = false;
         m_changed = false;
+        if (abandoned) ReleaseRow();
     } else if (m_changed) {
         m_table.Storage()->Replace(m_oid, Values());
         m_changed = false;
@@ -159,6 +160,7 @@ void dbc_RowRfm::ReleaseRow() const {
     auto* const self = const_cast<dbc_RowRfm*>(this);
     if (!home) return;
     if (m_holds == Holds::Nothing) return;
+    self->abandoned = false;
     self->Store();
     self->m_holds = Holds::Nothing;
     self->m_own = nullptr;
@@ -181,6 +183,8 @@ rfm_Value dbc_RowRfm::At(dbc_Places::Place place) const {
 }
 
 rfm_Value dbc_RowRfm::Get(rfm_FieldHandle const& field) const {
+    // Of a class that ends, what somebody reads goes on elsewhere.
+    if (m_table.isRetiring) m_table.NoteTaken(field, m_oid, true);
     dbc_Places::Place const place = m_places->Of(field);
     if (place.where != dbc_Places::Own)
         for (auto const& [number, value] : m_extras)

@@ -41,6 +41,8 @@ public:
     void Store();
     /// Where the row goes when it is handed back; null where nobody keeps it.
     std::vector<dbc_RowRfm*>* home = nullptr;
+    /// Nobody holds the row any more: it goes back as soon as it is stored.
+    bool abandoned = false;
     std::unique_ptr<rfm_Cursor> ownCursor, formerCursor;
 
     // ---- dbc_Row ----

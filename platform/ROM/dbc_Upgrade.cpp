@@ -105,7 +105,10 @@ void dbc_Upgrade::Declare() {
         int const named = m_converter.ClassNames().Size();
         old.version->ClassesToDelete(m_converter);
         old.version->ClassesToRename(m_converter);
-        if (m_converter.DeletedClasses().Size() > deleted) m_deleted.insert(typeId);
+        if (m_converter.DeletedClasses().Size() > deleted) {
+            m_deleted.insert(typeId);
+            table.isRetiring = true;
+        }
         if (m_converter.ClassNames().Size() > named) m_renamed.push_back(&old);
         if (cls_ClassMetadata const* current = m_current.Find(typeId))
             if (!m_converter.Output().Registrar().Find(typeId))
@@ -228,6 +231,17 @@ void dbc_Upgrade::RenameTables() {
     }
 }
 
+bool dbc_Upgrade::HasSteps(unsigned typeId) const {
+    for (auto const& [target, step] : m_converter.Steps())
+        if (step.Classes().count(typeId) != 0) return true;
+    return false;
+}
+
+bool dbc_Upgrade::IsReached(unsigned typeId, int version) const {
+    auto const step = m_converter.Steps().find(version);
+    return step != m_converter.Steps().end() && step->second.Classes().count(typeId) != 0;
+}
+
 void dbc_Upgrade::BringToCurrent() {
     std::vector<std::pair<dbc_WorkTable*, rfm_TableMetadata const*>> behind;
     for (auto const& [typeId, table] : m_converter.Tables().All()) {
@@ -238,7 +252,14 @@ void dbc_Upgrade::BringToCurrent() {
     }
     if (behind.empty()) return;
     m_converter.StartStep(0);
-    for (auto const& [table, layout] : behind) table->StartRewrite(*layout);
+    for (auto const& [table, layout] : behind) {
+        if (HasSteps(table->TypeId()) && !IsReached(table->TypeId(), table->Version()))
+            table->Report()
+                .notes["no step leads on from version " + std::to_string(table->Version()) +
+                       ", so only fields of the same name are carried"] = {
+                table->Storage()->RowCount(), 0};
+        table->StartRewrite(*layout);
+    }
     for (auto const& [table, layout] : behind) {
         table->Rewrite(nullptr);
         if (table->Report().versions.back() != layout->Version())
@@ -249,7 +270,10 @@ void dbc_Upgrade::BringToCurrent() {
 
 void dbc_Upgrade::DropDeleted() {
     for (unsigned typeId : m_deleted) {
-        m_converter.Tables().Of(typeId).Report().retired = true;
+        dbc_WorkTable& table = m_converter.Tables().Of(typeId);
+        table.Report().retired = true;
+        // What was copied to another class was counted then.
+        if (m_converter.Tables().Renames().count(typeId) == 0) table.CountRetired();
         m_converter.Tables().Drop(typeId);
     }
 }
@@ -391,8 +415,19 @@ void dbc_Upgrade::FinishReport() {
                 each.filled.erase(filled);
         }
     }
-    for (auto const& [typeId, table] : m_converter.Tables().All())
-        if (table->Exists()) table->Report().rowsOut = table->Storage()->RowCount();
+    for (auto const& [typeId, table] : m_converter.Tables().All()) {
+        if (!table->Exists()) continue;
+        dbc_ClassReport& each = table->Report();
+        rfm_TableMetadata const& layout = table->Storage()->Metadata();
+        each.rowsOut = table->Storage()->RowCount();
+        if (each.versions.size() > 1 && each.versions.back() != layout.Version())
+            each.versions.push_back(layout.Version());
+        // What a step filled and a later one dropped, nobody had and nobody has.
+        std::erase_if(each.filled, [&](auto const& filled) {
+            return layout.Find(cow_String(filled.first.c_str())) < 0 &&
+                   layout.Find(cow_String((filled.first + "#OID").c_str())) < 0;
+        });
+    }
 }
 
 namespace {
@@ -427,6 +462,41 @@ std::vector<Reference> ReferencesOf(rfm_TableMetadata const& layout,
     return references;
 }
 
+/// Which entries are some collection's: those of one that something refers to, in its range.
+class EntryOwners {
+public:
+    EntryOwners(rfm_Table* collections, std::vector<bool> const& reached) : m_reached(reached) {
+        if (!collections) return;
+        rfm_TableMetadata const& layout = collections->Metadata();
+        m_firstColumn = layout.Find("#First");
+        m_countColumn = layout.Find("#Count");
+        m_cursor = collections->OpenCursor();
+    }
+
+    bool Hold(int entry, rfm_Cursor& entries) {
+        rfm_Value const owner = entries.Value(0);
+        if (owner.tag != rfm_Value::Int || owner.integer < 0 ||
+            owner.integer >= static_cast<long long>(m_reached.size()) ||
+            !m_reached[static_cast<std::size_t>(owner.integer)])
+            return false;
+        if (owner.integer != m_owner) {
+            m_owner = owner.integer;
+            bool const found = m_cursor && m_cursor->Seek(static_cast<int>(m_owner));
+            m_first = found ? m_cursor->Value(m_firstColumn).integer : 0;
+            m_count = found ? m_cursor->Value(m_countColumn).integer : 0;
+        }
+        return entry >= m_first && entry - m_first < m_count;
+    }
+
+private:
+    static_assert(rom_Layout::ListEntryOwner == 0 && rom_Layout::MapEntryOwner == 0);
+
+    std::vector<bool> const& m_reached;
+    std::unique_ptr<rfm_Cursor> m_cursor;
+    int m_firstColumn = 0, m_countColumn = 0;
+    long long m_owner = -1, m_first = 0, m_count = 0;
+};
+
 }  // namespace
 
 dbc_References dbc_Upgrade::LookAtReferences(rfm_Database& database,
@@ -435,19 +505,13 @@ dbc_References dbc_Upgrade::LookAtReferences(rfm_Database& database,
     for (rfm_Table* table : database.Tables())
         reached[table->Metadata().TypeId()].resize(static_cast<std::size_t>(table->RowCount()));
     dbc_References result;
-    auto const look = [&](rfm_Table* table, int ownerColumn, std::vector<bool> const& owners) {
+    auto const look = [&](rfm_Table* table, EntryOwners* owners) {
         std::vector<Reference> references = ReferencesOf(table->Metadata(), current);
         if (references.empty()) return;
         std::unique_ptr<rfm_Cursor> const cursor = table->OpenCursor();
         for (int oid = 0, rows = table->RowCount(); oid < rows; ++oid) {
             if (!cursor->Seek(oid)) continue;
-            if (ownerColumn >= 0) {
-                rfm_Value const owner = cursor->Value(ownerColumn);
-                if (owner.tag != rfm_Value::Int || owner.integer < 0 ||
-                    owner.integer >= static_cast<long long>(owners.size()) ||
-                    !owners[static_cast<std::size_t>(owner.integer)])
-                    continue;
-            }
+            if (owners && !owners->Hold(oid, *cursor)) continue;
             for (Reference& each : references) {
                 rfm_Value const number = cursor->Value(each.oidColumn);
                 if (number.tag != rfm_Value::Int) continue;
@@ -470,13 +534,15 @@ dbc_References dbc_Upgrade::LookAtReferences(rfm_Database& database,
     for (rfm_Table* table : database.Tables()) {
         unsigned const typeId = table->Metadata().TypeId();
         if (typeId != rom_Layout::listEntryTypeId && typeId != rom_Layout::mapEntryTypeId)
-            look(table, -1, {});
+            look(table, nullptr);
     }
-    // Entries count where something refers to their collection.
-    if (rfm_Table* const entries = database.FindTable(rom_Layout::listEntryTypeId))
-        look(entries, rom_Layout::ListEntryOwner, reached[cls_ListTypeId]);
-    if (rfm_Table* const entries = database.FindTable(rom_Layout::mapEntryTypeId))
-        look(entries, rom_Layout::MapEntryOwner, reached[cls_MapTypeId]);
+    for (auto const& [entryId, ownerId] :
+         {std::pair(rom_Layout::listEntryTypeId, unsigned{cls_ListTypeId}),
+          std::pair(rom_Layout::mapEntryTypeId, unsigned{cls_MapTypeId})})
+        if (rfm_Table* const entries = database.FindTable(entryId)) {
+            EntryOwners owners(database.FindTable(ownerId), reached[ownerId]);
+            look(entries, &owners);
+        }
     for (auto& [typeId, rows] : reached) {
         cls_ClassMetadata const* const metadata = current.Find(typeId);
         if (!metadata || !metadata->HasCtor()) continue;

@@ -58,6 +58,9 @@ private:
     /// Makes the table that is to get the rows of another class, as it was when classes were
     /// renamed.
     void StartTarget(unsigned typeId, std::string const& source);
+    bool HasSteps(unsigned typeId) const;
+    /// Whether a step leads the class to the version.
+    bool IsReached(unsigned typeId, int version) const;
     void BringToCurrent();
     void DropDeleted();
     void Complete();

@@ -133,6 +133,7 @@ std::unique_ptr<rfm_Array<double, 4>> SetNewAttributeArrayDoubleInOutputDatabase
         Run().Output().Transporter().Database().ArrayDouble(1, -1, 0);
     list.SetHandle(handle, array->Handle());
     // The row waits with the array's bytes until the next one is made or the step ends.
+    static_cast<dbc_RowRfm&>(list).abandoned = true;
     return array;
 }
 

@@ -41,7 +41,13 @@ dbc_WorkTable::dbc_WorkTable(dbc_WorkTables& tables, unsigned typeId, rfm_Table*
       m_typeId(typeId),
       m_original(original),
       m_work(work),
-      m_pristine(original != nullptr) {}
+      m_pristine(original != nullptr) {
+    if (work) KnowFields(work->Metadata());
+}
+
+void dbc_WorkTable::KnowFields(rfm_TableMetadata const& layout) {
+    for (rfm_Column const& column : layout.Columns()) m_ownFields.insert(FieldName(column.name));
+}
 
 std::string dbc_WorkTable::Name() const {
     if (rfm_Table* const storage = Storage()) return storage->Metadata().Name().Text();
@@ -75,6 +81,7 @@ void dbc_WorkTable::EndStep() {
 
 void dbc_WorkTable::Create(rfm_TableMetadata const& layout) {
     m_work = &m_tables.Work().CreateTable(layout);
+    KnowFields(layout);
     m_pristine = false;
     m_touched = true;
     m_mapped = true;
@@ -201,7 +208,23 @@ void dbc_WorkTable::SumUp() {
     for (std::size_t i = 0; i < m_dropped.size(); ++i) {
         auto const column = static_cast<std::size_t>(m_places->Dropped()[i]);
         std::string const name = FieldName(former[column].name);
-        if (m_dropped[i] > 0 && !name.empty()) report.dropped[name] += m_dropped[i];
+        if (m_ownFields.erase(name) == 0 || name.empty()) continue;
+        if (m_dropped[i] > 0) report.dropped[name] += m_dropped[i];
+    }
+}
+
+void dbc_WorkTable::CountRetired() {
+    rfm_TableMetadata const& layout = m_work->Metadata();
+    std::vector<long long> held(layout.Columns().size());
+    std::unique_ptr<rfm_Cursor> const cursor = m_work->OpenCursor();
+    for (int oid = 0, rows = m_work->RowCount(); oid < rows; ++oid) {
+        if (!cursor->Seek(oid)) continue;
+        for (std::size_t i = 0; i < held.size(); ++i)
+            if (IsHeld(cursor->Value(static_cast<int>(i)))) ++held[i];
+    }
+    for (std::size_t i = 0; i < held.size(); ++i) {
+        std::string const name = FieldName(layout.Columns()[i].name);
+        if (held[i] > 0 && !name.empty()) Report().dropped[name] += held[i];
     }
 }
 

@@ -81,6 +81,10 @@ public:
         return value.tag != rfm_Value::Null && (value.tag != rfm_Value::Text || value.length != 0);
     }
     std::string Name() const;
+    /// The class ends with this run.
+    bool isRetiring = false;
+    /// Tells the report what goes with the table.
+    void CountRetired();
 
     /// How many rows of the last rewrite have no value in each column.
     std::vector<long long> const& Unset() const { return m_unset; }
@@ -97,6 +101,7 @@ public:
 private:
     void Count(dbc_RowRfm const& out, rfm_Cursor& former);
     void SumUp();
+    void KnowFields(rfm_TableMetadata const& layout);
 
     dbc_WorkTables& m_tables;
     unsigned m_typeId;
@@ -114,6 +119,8 @@ private:
     dbc_RowRfm* m_pending = nullptr;
     std::unique_ptr<dbc_Places> m_places;
     rfm_Table const* m_placesOf = nullptr;
+    /// The fields whose values came with the file, and not from a step.
+    std::set<std::string> m_ownFields;
     /// In the columns of the layout or of the input, as Places have them.
     std::vector<long long> m_filled, m_dropped, m_unset;
     std::vector<int> m_classColumns;

@@ -492,9 +492,9 @@ rom_Reader::Memento* rom_Reader::Open(TableReader* table, int oid) {
 }
 
 rom_Reader::Memento* rom_Reader::OpenPart(TableReader& table, int oid) {
-    Memento* const memento = Open(&table, oid);
+    // First: what is open when this fails would stay open.
     table.NoteReferred(oid);
-    return memento;
+    return Open(&table, oid);
 }
 
 unsigned rom_Reader::CheckedClass(rfm_Value const& stored, unsigned expected, Origin const& where) {
@@ -586,9 +586,10 @@ std::vector<rom_Transporter::Unreferenced> rom_Reader::Unreferenced() {
         } catch (nex_Exception const& failure) {
             // What the frame raises names its place itself.
             std::string const text(failure.AsString().View());
-            each.failure = "row " + std::to_string(each.oid) + " of table " +
-                           TableFor(each.typeId).name.Text() + ": ";
-            if (!m_failedAt.empty() && text.find("table ") == std::string::npos)
+            std::string const place = "row " + std::to_string(each.oid) + " of table " +
+                                      TableFor(each.typeId).name.Text();
+            each.failure = place + ": ";
+            if (m_failedAt != place && text.find("table ") == std::string::npos)
                 each.failure += m_failedAt + ": ";
             each.failure += text;
         }

@@ -1,9 +1,11 @@
 #include "nga_UpgradeFile.h"
 
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 
 #include "module/OldClassFacts.h"
@@ -12,6 +14,22 @@
 
 using namespace store_test;
 using old_test::OldDatabase;
+
+namespace {
+
+bool fsyncsOfFoldersFail = false;
+
+}  // namespace
+
+// What the tests' program calls for the one of the C library.
+extern "C" int fsync(int file) {
+    struct stat state;
+    if (fsyncsOfFoldersFail && fstat(file, &state) == 0 && S_ISDIR(state.st_mode)) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(syscall(SYS_fsync, file));
+}
 
 namespace {
 
@@ -226,6 +244,121 @@ TEST_F(UpgradedStore, ASignalTakesTheScratchCopyOfADryRunWithIt) {
     else
         unsetenv("TMPDIR");
     EXPECT_EQ(files(), 0);
+}
+
+TEST_F(UpgradedStore, ASignalTakesTheHalfMadeFileWithIt) {
+    std::string const path = OldFile(5);
+    std::string const before = Contents(path);
+    for (int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        pid_t const child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            nga::UpgradeFileOptions options;
+            options.inspect = [&](std::string const&, dbc_References const&) {
+                raise(folder.Entries() == 2 ? signal : SIGABRT);
+            };
+            try {
+                nga::UpgradeFile(path, options);
+            } catch (...) {
+            }
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status));
+        EXPECT_EQ(WTERMSIG(status), signal);
+        EXPECT_EQ(folder.Entries(), 1);
+        EXPECT_EQ(Contents(path), before);
+    }
+    // A handler of the program's own is not put aside, and no handler of ours stays.
+    ::signal(SIGHUP, SIG_IGN);
+    nga::UpgradeFileOptions options;
+    options.inspect = [&](std::string const&, dbc_References const&) { raise(SIGHUP); };
+    nga::UpgradeFile(path, options);
+    EXPECT_EQ(::signal(SIGHUP, SIG_DFL), SIG_IGN);
+    EXPECT_EQ(::signal(SIGTERM, SIG_DFL), SIG_DFL);
+}
+
+// The folder that cannot be synced says so only after the new file stands in its place.
+TEST_F(UpgradedStore, KeepsTheOldFileWhereTheNewOneMayNotBeOnTheDisk) {
+    std::string const path = OldFile(2);
+    std::string const before = Contents(path);
+    fsyncsOfFoldersFail = true;
+    std::string const failure = FailureOf(path);
+    fsyncsOfFoldersFail = false;
+    EXPECT_NE(failure.find("it was saved, but writing its folder to the disk failed"),
+              std::string::npos)
+        << failure;
+    EXPECT_EQ(Contents(path + ".schema-203.bak"), before);
+    EXPECT_EQ(SqlText(path, "PRAGMA user_version"), "1111");
+}
+
+TEST_F(UpgradedStore, RefusesAClassThatIsGoneInAVersionThatNothingLeadsOnFrom) {
+    OldDatabase db;
+    Fill(db, 1);
+    db.Table(old_test::OldLayout("kmaC_CapCreep_203"));
+    db.Row(capCreep, {{"law", "TIME"}, {"mechanism", "COHESION"}});
+    std::string const path = folder.File("cap.nga");
+    old_test::WriteFile(db.Store(), path, 204);
+    Sql(path, "UPDATE nga_Catalogue SET Version=204 WHERE ClassName='kmaC_CapCreep'");
+    std::string const before = Contents(path);
+    EXPECT_EQ(FailureOf(path),
+              "it holds class kmaC_CapCreep in version 204, from which nothing leads to a class of "
+              "today");
+    EXPECT_EQ(Contents(path), before);
+    EXPECT_EQ(folder.Entries(), 1);
+    // One that is still there is read as far as its fields have their names.
+    Sql(path,
+        "DROP TABLE kmaC_CapCreep;DELETE FROM nga_Catalogue WHERE ClassName='kmaC_CapCreep';"
+        "UPDATE nga_Catalogue SET Version=204 WHERE ClassName='kmaC_Plastic'");
+    auto const notes = nga::UpgradeFile(path).report.classes.at(plastic).notes;
+    ASSERT_EQ(notes.size(), 1u);
+    EXPECT_EQ(notes.begin()->first,
+              "no step leads on from version 204, so only fields of the same name are carried");
+}
+
+TEST_F(UpgradedStore, RefusesAnOldClassUnderAnotherName) {
+    std::string const path = OldFile(1);
+    Sql(path, "UPDATE nga_Catalogue SET ClassName='kmaC_Foo' WHERE ClassName='kmaC_Plastic'");
+    EXPECT_EQ(FailureOf(path), "the catalogue of classes does not fit class kmaC_Foo (0x238003C)");
+}
+
+TEST_F(UpgradedStore, DoesNotNeedTheColumnsOfCollectionsInTheirOrder) {
+    std::string const path = OldFile(3);
+    std::string const ordered = folder.File("ordered.nga");
+    nga::UpgradeFileOptions options;
+    options.output = ordered;
+    nga::UpgradeFile(path, options);
+    Sql(path,
+        "CREATE TABLE x(\"value\",\"value#OID\" INTEGER,\"key\" KEYBLOB,\"owner\" INTEGER,"
+        "\"value#ClassID\" INTEGER,\"##OID\" INTEGER PRIMARY KEY);"
+        "INSERT INTO x SELECT \"value\",\"value#OID\",\"key\",\"owner\",\"value#ClassID\","
+        "\"##OID\" FROM cls_MapEntry;DROP TABLE cls_MapEntry;"
+        "ALTER TABLE x RENAME TO cls_MapEntry");
+    EXPECT_TRUE(nga::UpgradeFile(path).report.references.unreferenced.empty());
+    EXPECT_TRUE(SameMaterials(*nga::LoadModel(path), *nga::LoadModel(ordered)));
+    EXPECT_EQ(SqlText(path,
+                      "SELECT group_concat(name) FROM pragma_index_info("
+                      "'cls_MapEntry#owner#key')"),
+              "owner,key");
+}
+
+TEST_F(UpgradedStore, MakesItsIndexAnewWhereSomebodyElseMadeOneOfItsName) {
+    std::string const path = OldFile(1);
+    Sql(path, "CREATE UNIQUE INDEX \"cls_MapEntry#owner#key\" ON cls_MapEntry(\"value#OID\")");
+    nga::UpgradeFile(path);
+    EXPECT_EQ(SqlText(path, "SELECT sql FROM sqlite_schema WHERE type='index'"),
+              "CREATE INDEX \"cls_MapEntry#owner#key\" ON \"cls_MapEntry\"(\"owner\",\"key\")");
+}
+
+TEST_F(UpgradedStore, TheRemedyIsAWordForAShell) {
+    std::filesystem::create_directory(folder.File("my parts"));
+    std::string const path = folder.File("my parts/it's old.nga");
+    std::filesystem::copy_file(OldFile(1), path);
+    std::string const refusal = Refusal(path);
+    EXPECT_NE(refusal.find("run: nga upgrade '" + folder.File("my parts/it'\\''s old.nga") + "'"),
+              std::string::npos)
+        << refusal;
 }
 
 TEST_F(UpgradedStore, NeverOverwritesABackup) {
