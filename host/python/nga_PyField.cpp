@@ -14,6 +14,7 @@ namespace {
 PyTypeObject* fieldType = nullptr;
 PyObject* listView = nullptr;
 PyObject* mapView = nullptr;
+PyObject* describeField = nullptr;
 
 Field* As(PyObject* self) { return reinterpret_cast<Field*>(self); }
 
@@ -169,7 +170,24 @@ PyObject* GetName(PyObject* self, void*) {
     return As(self)->data.name;
 }
 
+PyObject* GetClass(PyObject* self, void*) {
+    return Guarded<PyObject*>(nullptr, [&] {
+        return Ref::Share(reinterpret_cast<PyObject*>(ClassOf(*As(self)->data.owner))).Release();
+    });
+}
+/// Written when somebody asks: there are thousands of fields.
+PyObject* GetDoc(PyObject* self, void*) {
+    return Guarded<PyObject*>(nullptr, [&] {
+        Ref const owner(GetClass(self, nullptr));
+        return Ref(PyObject_CallFunctionObjArgs(describeField, owner.Get(), As(self)->data.name,
+                                                nullptr))
+            .Release();
+    });
+}
+
 PyGetSetDef getSet[] = {{"__name__", GetName, nullptr, nullptr, nullptr},
+                        {"__objclass__", GetClass, nullptr, nullptr, nullptr},
+                        {"__doc__", GetDoc, nullptr, nullptr, nullptr},
                         {nullptr, nullptr, nullptr, nullptr, nullptr}};
 PyType_Slot slots[] = {{Py_tp_dealloc, reinterpret_cast<void*>(Dealloc)},
                        {Py_tp_descr_get, reinterpret_cast<void*>(Get)},
@@ -216,11 +234,13 @@ Ref MakeField(mdl_Description const& owner, std::string const& script, PyObject*
     return result;
 }
 
-void SetViews(PyObject* list, PyObject* map) {
+void SetViews(PyObject* list, PyObject* map, PyObject* describe) {
     Py_INCREF(list);
     Py_INCREF(map);
+    Py_INCREF(describe);
     listView = list;
     mapView = map;
+    describeField = describe;
 }
 
 std::string ScriptPath(std::string const& path) {

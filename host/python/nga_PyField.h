@@ -13,8 +13,9 @@ PyTypeObject* MakeFieldType();
 Ref MakeField(mdl_Description const& owner, std::string const& script, PyObject* literals,
               PyObject* words);
 
-/// What makes the Python views of lists of objects and of maps: called with handle and name.
-void SetViews(PyObject* list, PyObject* map);
+/// What makes the Python views of lists of objects and of maps: called with handle and name. And
+/// what describes a field in words: called with the class that has it and its name.
+void SetViews(PyObject* list, PyObject* map, PyObject* describe);
 
 /// A text of a path as Python reads it: bytes that are no UTF-8 are the surrogates that stand for
 /// them.

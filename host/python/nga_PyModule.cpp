@@ -264,6 +264,7 @@ void RenameEntry(Session& session, std::size_t index, py::handle from, py::handl
     Writing writing(session);
     writing.Touch(collection, old);
     writing.Touch(collection, fresh);
+    session.history.Renamed(collection, old, fresh);
     collection.Remove(model, old);
     collection.Restore(model, fresh, held);
     writing.Close();
@@ -271,10 +272,12 @@ void RenameEntry(Session& session, std::size_t index, py::handle from, py::handl
 
 py::list Keys(Session& session, std::size_t index) {
     session.Enter();
-    py::list keys;
-    CollectionAt(index).Each(session.document.Model(), [&](cow_String const& key, void const*) {
-        keys.append(Text(key.View()));
-    });
+    // Making objects of Python's can run Python code, which may write to the document.
+    std::vector<cow_String> names;
+    CollectionAt(index).Each(session.document.Model(),
+                             [&](cow_String const& key, void const*) { names.push_back(key); });
+    py::list keys(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) keys[i] = Text(names[i].View());
     return keys;
 }
 
@@ -284,10 +287,15 @@ py::list Import(Session& session, py::handle given, std::string const& onConflic
     OnConflict const rule = onConflict == "replace" ? OnConflict::Replace
                             : onConflict == "keep"  ? OnConflict::Keep
                                                     : OnConflict::Error;
-    Recording const recording(session);
-    ++session.stamp;
+    std::vector<Imported> lines;
+    {
+        Recording const recording(session);
+        Interruptible const interruptible(&session);
+        ++session.stamp;
+        lines = ImportRecorded(session.document, session.history, text, rule);
+    }
     py::list report;
-    for (Imported const& line : ImportRecorded(session.document, session.history, text, rule))
+    for (Imported const& line : lines)
         report.append(py::make_tuple(line.collection, line.added, line.replaced, line.kept));
     return report;
 }
@@ -360,6 +368,7 @@ py::list DiffOf(KeptSnapshot const& before, KeptSnapshot const& after, std::stri
     if (before.thread != PyThread_get_thread_ident() || after.thread != before.thread)
         Fail(PyExc_RuntimeError, "a snapshot belongs to the thread that took it");
     py::list list;
+    Interruptible const interruptible;
     Diff(before.snapshot, after.snapshot, root, {relative, absolute},
          [&](Difference const& difference) {
              list.append(py::make_tuple(Text(ScriptPath(difference.path)),
@@ -397,18 +406,22 @@ py::object ToJson(py::handle handle) {
     mdl_Description const& description = *object->state.description;
     JsonWriter writer;
     Defaults defaults;
-    WriteObject(writer, defaults, description, description, Resolve(object),
-                defaults.Of(description));
+    void const* const at = Resolve(object);
+    Interruptible const interruptible(SessionOf(object));
+    WriteObject(writer, defaults, description, description, at, defaults.Of(description));
     return Text(writer.TakeValue());
 }
 
 py::object FromJson(unsigned typeId, py::handle text) {
     mdl_Description const& description = DescriptionAt(typeId);
+    Interruptible const interruptible;
     return Give(OwnedObject(ReadObject(ParseJson(From(text)), JsonPlace(), description)));
 }
 
 bool Same(py::handle a, py::handle b) {
     Object *const one = Handle(a), *const other = Handle(b);
+    RequireHere(one);
+    RequireHere(other);
     return one->state.description == other->state.description &&
            one->state.description->Same(Resolve(one), Resolve(other));
 }
@@ -468,11 +481,14 @@ void DefineSession(py::module_& module) {
         .def_static(
             "new",
             [](py::handle name) { return std::make_shared<Session>(Document::New(From(name))); })
-        .def_static(
-            "open",
-            [](py::handle path) { return std::make_shared<Session>(Document::Open(From(path))); })
+        .def_static("open",
+                    [](py::handle path) {
+                        Interruptible const interruptible;
+                        return std::make_shared<Session>(Document::Open(From(path)));
+                    })
         .def_static("from_json",
                     [](py::handle name, py::handle text) {
+                        Interruptible const interruptible;
                         Document document = Document::New(From(name));
                         ImportJson(document, From(text));
                         return std::make_shared<Session>(std::move(document));
@@ -506,14 +522,17 @@ void DefineSession(py::module_& module) {
         .def("save",
              [](Session& s) {
                  s.Enter();
+                 Interruptible const interruptible(&s);
                  ++s.stamp;
                  s.document.Save();
              })
         .def("save_as",
              [](Session& s, py::handle path) {
                  s.Enter();
+                 std::string const target = From(path);
+                 Interruptible const interruptible(&s);
                  ++s.stamp;
-                 s.document.SaveAs(From(path));
+                 s.document.SaveAs(target);
              })
         .def("undo",
              [](Session& s) {
@@ -528,6 +547,14 @@ void DefineSession(py::module_& module) {
                  Recording const recording(s);
                  ++s.stamp;
                  return s.history.Redo();
+             })
+        .def("forget",
+             [](Session& s) {
+                 s.Enter();
+                 // A script begins here from now on, and nothing else may have what is here.
+                 if (s.history.UndoCount() > 0) s.opening.clear();
+                 s.history.Forget();
+                 s.records.clear();
              })
         .def("counts",
              [](Session& s) {
@@ -568,11 +595,17 @@ void DefineSession(py::module_& module) {
         .def("findings",
              [](Session& s, bool deep) {
                  s.Enter();
-                 return Findings(Check(s.document, deep ? CheckDepth::All : CheckDepth::Asked));
+                 std::vector<Finding> findings;
+                 {
+                     Interruptible const interruptible(&s);
+                     findings = Check(s.document, deep ? CheckDepth::All : CheckDepth::Asked);
+                 }
+                 return Findings(findings);
              })
         .def("export_json",
              [](Session& s) {
                  s.Enter();
+                 Interruptible const interruptible(&s);
                  return Text(ExportJson(s.document));
              })
         .def("import_json", Import)
@@ -585,16 +618,20 @@ void DefineSession(py::module_& module) {
         .def("start_text",
              [](Session& s) {
                  s.Enter();
+                 Interruptible const interruptible(&s);
                  return Text(s.StartText());
              })
         .def("script",
              [](Session& s, py::handle opening) {
                  s.Enter();
-                 return Text(ScriptText(From(opening), s.history));
+                 std::string const start = From(opening);
+                 Interruptible const interruptible(&s);
+                 return Text(ScriptText(start, s.history));
              })
         .def("script_body",
              [](Session& s) {
                  s.Enter();
+                 Interruptible const interruptible(&s);
                  return Text(ScriptBody(s.history));
              })
         .def("size",
@@ -653,8 +690,21 @@ void DefineObjects(py::module_& module) {
     });
     module.def("findings", [](py::handle handle, bool deep) {
         Object* const object = Handle(handle);
-        return Findings(Check(*object->state.description, Resolve(object), PathOf(object),
-                              deep ? CheckDepth::All : CheckDepth::Asked));
+        void const* const at = Resolve(object);
+        std::vector<Finding> findings;
+        {
+            Interruptible const interruptible(SessionOf(object));
+            findings = Check(*object->state.description, at, PathOf(object),
+                             deep ? CheckDepth::All : CheckDepth::Asked);
+        }
+        return Findings(findings);
+    });
+    module.def("is_here", [](py::handle handle) { return IsHere(Handle(handle)); });
+    // What was read stays right while this number stays.
+    module.def("stamp", [](py::handle handle) {
+        Object* const object = Handle(handle);
+        Resolve(object);
+        return StampOf(object);
     });
     module.def("to_json", ToJson);
     module.def("from_json", FromJson);
@@ -723,8 +773,9 @@ PYBIND11_MODULE(_nga, module) {
                                 py::tuple words) {
         return Give(MakeField(DescriptionAt(typeId), script, literals.ptr(), words.ptr()));
     });
-    module.def("set_views",
-               [](py::handle list, py::handle map) { SetViews(list.ptr(), map.ptr()); });
+    module.def("set_views", [](py::handle list, py::handle map, py::handle describe) {
+        SetViews(list.ptr(), map.ptr(), describe.ptr());
+    });
     module.def("diff", DiffOf);
     DefineSession(module);
     DefineObjects(module);

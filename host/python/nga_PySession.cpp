@@ -19,6 +19,12 @@ void Session::RefuseThread() const {
              "there, or hand over its text (to_dict)");
 }
 
+void Session::RefuseAtWork() const {
+    Fail(PyExc_RuntimeError, "the document " + Quoted(document.Name()) +
+                                 " is in the midst of a call, and cannot be used by the handler of "
+                                 "a signal");
+}
+
 std::string Session::StartText() {
     Document start = Document::New(document.Name());
     ddr_Model& model = start.Model();
@@ -81,6 +87,17 @@ void Listen() {
 }
 
 }  // namespace
+
+Interruptible::Interruptible(Session* session)
+    : m_session(session), m_former(mdl_Interruption::Set([] {
+          if (PyErr_CheckSignals() != 0) throw Failure();
+      })) {
+    if (m_session) m_session->isAtWork = true;
+}
+Interruptible::~Interruptible() {
+    if (m_session) m_session->isAtWork = false;
+    mdl_Interruption::Set(m_former);
+}
 
 Recording::Recording(Session& session) : m_former(recorded) {
     Listen();

@@ -4,7 +4,6 @@ import collections.abc
 import json
 import math
 import os
-import pprint
 import struct
 import weakref
 from collections.abc import Mapping
@@ -105,7 +104,22 @@ def _path(path: str | os.PathLike[str]) -> str:
     if not isinstance(text, str):
         raise TypeError(f"a path is expected as text, not as {type(text).__name__}; "
                         "os.fsdecode() makes one")
+    try:
+        os.fsencode(text)
+    except UnicodeEncodeError:
+        cause = "the name has half of a character in it (a lone surrogate), as no file has"
+        failure = _nga.StoreError(f"{text!a}: {cause}")
+        failure.path, failure.cause = text, cause
+        raise failure from None
     return text
+
+
+def _tolerance(name, value):
+    if isinstance(value, (str, bytes)) or not hasattr(value, "__float__") and \
+            not hasattr(value, "__index__"):
+        raise TypeError(f"{name}: {value!r} ({type(value).__name__}) cannot stand here; "
+                        "expected a number")
+    return float(value)
 
 
 def _read(path):
@@ -304,6 +318,12 @@ class DocumentBase:
     def redo_count(self) -> int:
         return self._session.counts()[1]
 
+    def forget_history(self) -> None:
+        """Lets go of all steps, so that none can be undone or done again, and of the records of the
+        journal, which begins anew here. Each step keeps what it replaced for as long as it is there;
+        sessions that make millions of steps call this from time to time."""
+        self._session.forget()
+
     def snapshot(self) -> _nga.Snapshot:
         """The content as it is now, for diff(). It shares with the document and costs nothing."""
         return self._session.snapshot()
@@ -317,7 +337,8 @@ class DocumentBase:
         if not isinstance(before, _nga.Snapshot):
             raise TypeError("a document differs from a snapshot or another document, not from a "
                             f"{type(before).__name__}")
-        found = _nga.diff(before, self.snapshot(), self.path, relative, absolute, MISSING)
+        found = _nga.diff(before, self.snapshot(), self.path, _tolerance("relative", relative),
+                          _tolerance("absolute", absolute), MISSING)
         return [Difference(*one) for one in found]
 
     @property
@@ -410,6 +431,7 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
         return session.script(session.opening or self._start())
 
     def _start(self):
+        import pprint
         session = self._document._session
         text = session.start_text()
         content = json.loads(text)
@@ -439,6 +461,8 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
         return self.script + "".join(f"# {record!r}\n" for record in self.records)
 
     def __repr__(self):
+        if not self._document._session.is_here:
+            return "<journal of another thread>"
         return f"<journal of {self._document.path}: {len(self)} change records>"
 
 
@@ -489,6 +513,8 @@ class Repository(collections.abc.MutableMapping[str, _Held]):
             (list(self) == list(other) and all(self[name] == other[name] for name in self))
 
     def __repr__(self):
+        if not self._document._session.is_here:
+            return f"<{self._name} of another thread>"
         return f"<{self.path}: {len(self)} object{'' if len(self) == 1 else 's'}>"
 
     def _repr_html_(self):
@@ -507,6 +533,13 @@ class _Class(type):
             from ._help import class_help
             return class_help(cls)
         return vars(cls).get("_help")
+
+    @property
+    def __signature__(cls):
+        if "_facts" not in vars(cls) or vars(cls)["_facts"]["abstract"]:
+            raise AttributeError("__signature__")
+        from ._signature import constructor_signature
+        return constructor_signature(cls)
 
 
 class Object(_nga.Object, metaclass=_Class):
@@ -541,8 +574,20 @@ ReferenceError when the path leads nowhere any more."""
 
     @property
     def options(self) -> "Options":
-        """The optional objects that are set, by name."""
+        """The optional objects that are set, by name. Assigning a mapping sets those and takes all
+        others away."""
         return Options(self)
+
+    @options.setter
+    def options(self, options: Mapping[str, Any]) -> None:
+        if not isinstance(options, Mapping):
+            raise TypeError(f"{type(self).__name__}.options: {options!r} "
+                            f"({type(options).__name__}) cannot stand here; expected a mapping of "
+                            "names and objects")
+        given = Options(self)
+        for name in options:
+            given._require(name)
+        _nga.set_values(self, {name: options.get(name) for name in self._keyed}, False)
 
     def sort(self, n: int, field: str | None = None) -> None:
         """Orders the rows of the table by its last n columns, the last one first. The table's field
@@ -571,9 +616,12 @@ ReferenceError when the path leads nowhere any more."""
             return NotImplemented
         return _nga.same(self, other)
 
+    # Equality goes by content, which changes, so none is a key; a path is.
     __hash__ = None  # type: ignore[assignment]
 
     def __repr__(self):
+        if not _nga.is_here(self):
+            return f"<{type(self).__name__} of another thread>"
         if self.path is not None:
             return f"<{type(self).__name__} {self.path}{'' if self.alive else ' (gone)'}>"
         text = _nga.expression(self)
@@ -598,23 +646,33 @@ def _restore(type_id, text):
     return _nga.from_json(type_id, text)
 
 
-class Options(collections.abc.Mapping[str, Any]):
-    """The optional objects of one object that are set, by name."""
+class Options(collections.abc.MutableMapping[str, Any]):
+    """The optional objects of one object that are set, by name. Assigning None to one takes it away,
+    as with its attribute."""
 
     __slots__ = ("_owner",)
 
     def __init__(self, owner):
         self._owner = owner
 
+    def _fail(self, name, why):
+        raise KeyError(f"{self._owner.path or type(self._owner).__name__}: the option {name!r} "
+                       f"{why}")
+
+    def _require(self, name):
+        if name not in self._owner._keyed:
+            self._fail(name, "is none" + _nga.near(str(name), list(self._owner._keyed)))
+
     def __getitem__(self, name):
-        keyed = self._owner._keyed
-        found = getattr(self._owner, name) if name in keyed else None
+        self._require(name)
+        found = getattr(self._owner, name)
         if found is None:
-            why = "is not set" if name in keyed else \
-                "is none" + _nga.near(str(name), list(keyed))
-            raise KeyError(f"{self._owner.path or type(self._owner).__name__}: the option "
-                           f"{name!r} {why}")
+            self._fail(name, "is not set")
         return found
+
+    def __setitem__(self, name, value):
+        self._require(name)
+        setattr(self._owner, name, value)
 
     def __delitem__(self, name):
         self[name]
@@ -626,8 +684,18 @@ class Options(collections.abc.Mapping[str, Any]):
     def __len__(self):
         return sum(1 for _ in self)
 
+    def clear(self) -> None:
+        """Takes all options away, as one step."""
+        _nga.set_values(self._owner, dict.fromkeys(self._owner._keyed), False)
+
     def __repr__(self):
+        if not _nga.is_here(self._owner):
+            return "<options of another thread>"
         return f"<options {list(self)}>"
+
+    def _repr_html_(self):
+        from ._html import options_html
+        return options_html(self)
 
 
 class ObjectList(collections.abc.MutableSequence[Any]):
@@ -693,20 +761,33 @@ class ObjectList(collections.abc.MutableSequence[Any]):
         return len(self) == len(other) and all(a == b for a, b in zip(self, other))
 
     def __repr__(self):
+        if not _nga.is_here(self._owner):
+            return "<list of another thread>"
         return f"[{', '.join(map(repr, self))}]"
+
+    def _repr_html_(self):
+        from ._html import list_html
+        return list_html(self)
 
 
 class FloatMap(collections.abc.MutableMapping[str, float]):
     """A map from names to single-precision numbers in an object."""
 
-    __slots__ = ("_owner", "_field")
+    __slots__ = ("_owner", "_field", "_stamp", "_read")
 
     def __init__(self, owner, field):
         self._owner = owner
         self._field = field
+        self._stamp = None
 
     def _values(self):
-        return _nga.value(self._owner, self._field)
+        # What was read stays right until the document is written to, so that walking through all
+        # names and asking for each reads them once.
+        stamp = _nga.stamp(self._owner)
+        if stamp != self._stamp:
+            self._read = _nga.value(self._owner, self._field)
+            self._stamp = stamp
+        return self._read
 
     def __getitem__(self, name):
         values = self._values()
@@ -718,9 +799,21 @@ class FloatMap(collections.abc.MutableMapping[str, float]):
         setattr(self._owner, self._field, self._values() | {name: value})
 
     def __delitem__(self, name):
-        values = self._values()
+        values = dict(self._values())
+        if name not in values:
+            self[name]
         del values[name]
         setattr(self._owner, self._field, values)
+
+    def update(self, *others, **more):
+        """Sets several entries as one step."""
+        values = dict(self._values())
+        values.update(*others, **more)
+        setattr(self._owner, self._field, values)
+
+    def clear(self):
+        """Takes all entries away, as one step."""
+        setattr(self._owner, self._field, {})
 
     def __iter__(self):
         return iter(self._values())
@@ -729,7 +822,13 @@ class FloatMap(collections.abc.MutableMapping[str, float]):
         return len(self._values())
 
     def __repr__(self):
+        if not _nga.is_here(self._owner):
+            return "<map of another thread>"
         return repr(self._values())
+
+    def _repr_html_(self):
+        from ._html import map_html
+        return map_html(self)
 
 
 # ---- values --------------------------------------------------------------------------------------

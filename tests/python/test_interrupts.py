@@ -1,0 +1,164 @@
+"""Ctrl-C in the midst of long calls: they end, and the document is as it was."""
+import os
+import signal
+import subprocess
+import sys
+import threading
+import time
+
+import pytest
+
+import nga
+
+SIZE = 20000
+pytestmark = pytest.mark.skipif(threading.current_thread() is not threading.main_thread(),
+                                reason="signals are handled by the main thread")
+
+
+def text_of(size, number=1.0):
+    entries = ", ".join(f'"m{i}": {{"elastic": {{"table": [[{number}, 0.3]]}}, '
+                        f'"density": {{"table": [[{number}]]}}}}' for i in range(size))
+    return f'{{"materials": {{{entries}}}}}'
+
+
+@pytest.fixture(scope="module")
+def large():
+    document = nga.new("large")
+    document.import_json(text_of(SIZE))
+    return document
+
+
+def interrupted(call, function):
+    """Sends SIGINT while the call is at work, again and again until it meets the named function of
+    the extension within; gives how often that took."""
+    events = []
+
+    def profile(frame, event, argument):
+        if event.startswith("c_") and getattr(argument, "__name__", "") == function:
+            events.append(event)
+
+    start = time.perf_counter()
+    call()
+    lasted = time.perf_counter() - start
+    former = signal.signal(signal.SIGINT, signal.default_int_handler)
+    try:
+        for attempt in range(40):
+            delay = lasted * (0.2 + 0.6 * (attempt % 7) / 7)
+            events.clear()
+            killer = None
+            try:
+                killer = subprocess.Popen(["sh", "-c", f"sleep {delay:.4f}; kill -INT {os.getpid()}"])
+                sys.setprofile(profile)
+                call()
+                sys.setprofile(None)
+                killer.wait()
+                time.sleep(0.01)
+            except KeyboardInterrupt:
+                sys.setprofile(None)
+            finally:
+                sys.setprofile(None)
+                if killer is not None:
+                    killer.wait()
+            if events and events[-1] == "c_exception":
+                return attempt + 1
+    finally:
+        signal.signal(signal.SIGINT, former)
+    pytest.fail(f"no signal ended {function}")
+
+
+def test_a_check_is_interrupted(large):
+    interrupted(large.findings, "findings")
+    interrupted(lambda: large.findings(deep=True), "findings")
+
+
+def test_a_difference_is_interrupted(large):
+    other = nga.new("other")
+    other.import_json(text_of(SIZE, 2.0))
+    interrupted(lambda: large.diff(other), "diff")
+
+
+def test_a_text_is_interrupted(large):
+    interrupted(large.to_json, "export_json")
+
+
+def test_an_import_is_interrupted_and_changes_nothing(large):
+    document = nga.new("importing")
+    document.Material(name="steel", description="stays")
+    before = document.to_json()
+    steps = document.undo_count
+    text = large.to_json()
+
+    def bring_in():
+        # The signal may come behind the import, before it is undone.
+        while document.undo_count > steps:
+            document.undo()
+        document.import_json(text)
+
+    interrupted(bring_in, "import_json")
+    assert document.to_json() == before and document.undo_count == steps
+    document.import_json(text)
+    assert len(document.materials) == SIZE + 1
+
+
+def test_a_save_is_interrupted_and_the_file_stays(large, tmp_path):
+    document = nga.from_dict("saving", large.to_dict())
+    file = tmp_path / "a.nga"
+    document.save_as(file)
+    saved = []
+
+    def save():
+        saved[:] = [file.read_bytes()]
+        steel = document.materials["m0"]
+        steel.description += "."
+        document.save()
+
+    interrupted(save, "save")
+    # The last attempt ended within: the file is as it was before, and beside it is nothing.
+    assert file.read_bytes() == saved[0]
+    assert list(tmp_path.iterdir()) == [file]
+    dots = document.materials["m0"].description
+    assert nga.open(file).materials["m0"].description == dots[1:]
+    document.save()
+    assert nga.open(file).to_json() == document.to_json()
+    interrupted(lambda: document.save_as(tmp_path / "b.nga"), "save_as")
+    assert nga.open(file).to_json() == document.to_json()
+
+
+def test_opening_is_interrupted(large, tmp_path):
+    document = nga.from_dict("opening", large.to_dict())
+    document.save_as(tmp_path / "a.nga")
+    (tmp_path / "a.json").write_text(document.to_json())
+    interrupted(lambda: nga.open(tmp_path / "a.nga"), "open")
+    interrupted(lambda: nga.open(tmp_path / "a.json"), "from_json")
+
+
+def test_a_handler_of_a_signal_finds_the_document_closed(large):
+    """It runs in the midst of a walk, which must not lose its ground."""
+    refused = []
+
+    def handler(number, frame):
+        for use in (lambda: large.materials["m0"].description,
+                    lambda: large.materials.rename("m0", "x"), lambda: large.name):
+            try:
+                use()
+            except RuntimeError as failure:
+                refused.append(str(failure))
+        # Another document is open to it.
+        nga.new("elsewhere").Material(name="steel")
+
+    former = signal.signal(signal.SIGALRM, handler)
+    try:
+        start = time.perf_counter()
+        large.findings()
+        lasted = time.perf_counter() - start
+        for attempt in range(40):
+            refused.clear()
+            signal.setitimer(signal.ITIMER_REAL, max(lasted * (0.2 + 0.015 * attempt), 1e-4))
+            assert large.findings() == []
+            if refused:
+                break
+        signal.setitimer(signal.ITIMER_REAL, 0)
+    finally:
+        signal.signal(signal.SIGALRM, former)
+    assert len(refused) == 3 and all("in the midst of a call" in text for text in refused)
+    assert large.materials["m0"].description == ""
