@@ -579,3 +579,55 @@ def test_half_a_character_is_refused_where_texts_are_kept(doc, steel):
         with pytest.raises(ValueError, match=r"'half \\ud800' has half of a character"):
             use()
     assert steel.description == "" and list(doc.materials) == ["steel"]
+
+
+def test_what_is_taken_away_is_given_as_an_object_of_no_document(doc, steel):
+    steel.Density(table=((1.0,),))
+    mullins = steel.MullinsEffect(validate=False)
+    mullins.uniaxialTests = [nga.UniaxialTestData(table=((float(i), 1.0),)) for i in range(5)]
+    tests = mullins.uniaxialTests
+    assert tests.pop(1).table[0, 0] == 1.0 and tests.pop().table[0, 0] == 4.0
+    assert [one.table[0, 0] for one in tests] == [0.0, 2.0, 3.0]
+    tests.reverse()
+    assert [one.table[0, 0] for one in tests] == [3.0, 2.0, 0.0]
+    with pytest.raises(IndexError):
+        tests.pop(3)
+    density = steel.options.pop("density")
+    assert density == nga.Density(table=((1.0,),)) and density.path is None
+    assert steel.options.pop("density", 5) == 5
+    with pytest.raises(KeyError):
+        steel.options.pop("density")
+    steel.Elastic(table=((2.0, 0.3),))
+    name, taken = steel.options.popitem()
+    assert name == "elastic" and taken.table[0, 0] == 2.0 and steel.elastic is None
+    with pytest.raises(KeyError):
+        steel.options.popitem()
+    steel.description = "taken"
+    taken = doc.materials.pop("steel")
+    assert taken.description == "taken" and not steel.alive
+    assert doc.materials.pop("steel", None) is None
+
+
+def test_views_change_as_one_step(doc, steel):
+    other = nga.new("other")
+    for name in ("a", "b"):
+        other.Material(name=name, description=name)
+    steps = doc.undo_count
+    doc.materials.update(other.materials)
+    assert list(doc.materials) == ["a", "b", "steel"] and doc.undo_count == steps + 1
+    with pytest.raises(TypeError):
+        doc.materials.update({"c": other.materials["a"], "d": nga.Density()})
+    assert list(doc.materials) == ["a", "b", "steel"]
+    doc.materials.clear()
+    assert len(doc.materials) == 0 and doc.undo_count == steps + 2
+    doc.undo()
+    mullins = steel.MullinsEffect(validate=False)
+    mullins.uniaxialTests = [nga.UniaxialTestData()] * 3
+    case = doc.LoadCase(name="service", loads={"wind": 1.0})
+    steps = doc.undo_count
+    mullins.uniaxialTests.clear()
+    case.loads.update({"snow": 2.0}, ice=3.0)
+    case.loads.clear()
+    assert doc.undo_count == steps + 3
+    doc.undo()
+    assert dict(case.loads) == {"ice": 3.0, "snow": 2.0, "wind": 1.0}

@@ -466,7 +466,28 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
         return f"<journal of {self._document.path}: {len(self)} change records>"
 
 
-class Repository(collections.abc.MutableMapping[str, _Held]):
+class _Objects:
+    """Of mappings whose values are handles: what is taken out of one stands nowhere any more, so it
+    is given as an object of no document."""
+
+    __slots__ = ()
+
+    def pop(self, name, *default):
+        """Takes an object away and gives it, as one of no document."""
+        if default and name not in self:
+            return default[0]
+        taken = _nga.copy(self[name])
+        del self[name]
+        return taken
+
+    def popitem(self):
+        """The same with the first name, and gives the name too."""
+        for name in self:
+            return name, self.pop(name)
+        raise KeyError("there is nothing to take away")
+
+
+class Repository(_Objects, collections.abc.MutableMapping[str, _Held]):
     """The objects of one collection by name, in natural order: steel-9 before steel-10."""
 
     __slots__ = ("_document", "_index", "_name")
@@ -505,6 +526,17 @@ class Repository(collections.abc.MutableMapping[str, _Held]):
     def rename(self, old: str, new: str) -> None:
         """Gives an object another name. Handles go by path: those of the old name end."""
         self._document._session.rename_entry(self._index, old, new)
+
+    def update(self, *others, **more):
+        """Puts copies under several names, as one step."""
+        with self._document.edit():
+            super().update(*others, **more)
+
+    def clear(self):
+        """Takes all objects away, as one step."""
+        with self._document.edit():
+            for name in self:
+                del self[name]
 
     def __eq__(self, other):
         if not isinstance(other, Repository):
@@ -646,7 +678,7 @@ def _restore(type_id, text):
     return _nga.from_json(type_id, text)
 
 
-class Options(collections.abc.MutableMapping[str, Any]):
+class Options(_Objects, collections.abc.MutableMapping[str, Any]):
     """The optional objects of one object that are set, by name. Assigning None to one takes it away,
     as with its attribute."""
 
@@ -700,7 +732,7 @@ class Options(collections.abc.MutableMapping[str, Any]):
 
 class ObjectList(collections.abc.MutableSequence[Any]):
     """A list of objects in an object. Elements are reached by their places: what stands at [0] after
-    an insertion is what was inserted."""
+    an insertion is what was inserted. To let two change places, copy one of them first."""
 
     __slots__ = ("_owner", "_field")
 
@@ -750,7 +782,25 @@ class ObjectList(collections.abc.MutableSequence[Any]):
         self._assign(elements)
 
     def append(self, value):
-        _nga.append(self._owner, self._field, value)
+        if value is None:
+            self.insert(len(self), None)
+        else:
+            _nga.append(self._owner, self._field, value)
+
+    def pop(self, index=-1):
+        """Takes an element away and gives it, as an object of no document."""
+        elements = self._elements()
+        taken = elements.pop(self._place(index))
+        self._assign(elements)
+        return taken
+
+    def reverse(self):
+        """Turns the order around, as one step."""
+        self._assign(self._elements()[::-1])
+
+    def clear(self):
+        """Takes all elements away, as one step."""
+        self._assign([])
 
     def extend(self, values):
         self._assign(self._elements() + list(values))

@@ -30,9 +30,22 @@ class ValuesSignature(_Wrapped):
     @property
     def __signature__(self):
         from ._classes import all_fields
-        # A field that is not given stays as it is, which no value says.
         return _signature(self._first, False,
-                          [(field["script"], ...) for field in all_fields(self._made)])
+                          [(field["script"], _UNCHANGED) for field in all_fields(self._made)])
+
+
+class _Unchanged:
+    """What setValues gives a field that is not given: no value says that."""
+
+    __slots__ = ()
+    # Known to no type checker, which would hold it against the types of the fields.
+    __module__ = "nga"
+
+    def __repr__(self):
+        return "<unchanged>"
+
+
+_UNCHANGED = _Unchanged()
 
 
 def constructor_signature(made, first=None, named=False):
