@@ -1,3 +1,4 @@
+import os
 import random
 import threading
 
@@ -161,6 +162,8 @@ def test_a_history_is_forgotten(doc, tmp_path):
     assert "nga.open" in opened.journal.script
 
 
+@pytest.mark.skipif("asan" in os.environ.get("LD_PRELOAD", ""),
+                    reason="the sanitizer keeps what was released")
 def test_forgetting_lets_go_of_what_only_the_history_holds(doc):
     """Rows that were replaced are kept for undo, and not for ever."""
     import resource

@@ -6,6 +6,9 @@ import numpy
 import pytest
 
 import nga
+from conftest import concrete_classes, fields_of
+from samples import change_plain, make_held
+from test_registry import placed
 
 
 def body_of(document, change):
@@ -214,6 +217,40 @@ def test_what_was_changed_and_changed_back_leaves_nothing(model):
         doc.materials.rename("iron", "steel")
 
     assert body_of(model, change) == ""
+
+
+LISTS = [(cls, field) for cls in concrete_classes() for field in fields_of(cls)
+         if field["kind"] in ("options", "list")]
+
+
+@pytest.mark.parametrize("cls, field", LISTS, ids=lambda one: getattr(one, "__name__", None) or
+                         one["script"])
+def test_each_list_of_each_class_tells_one_edit_in_a_line(cls, field):
+    document, item = placed(cls)
+    path, name = item.path, field["script"]
+
+    def elements():
+        return getattr(eval(path, {"documents": {document.name: document}}), name)
+
+    def other():
+        made = make_held(field)
+        change_plain(made)
+        return made
+
+    item.setValues(**{name: [make_held(field) for _ in range(4)], "validate": False})
+    for change in (lambda doc: elements().insert(2, other()),
+                   lambda doc: elements().append(other()),
+                   lambda doc: elements().insert(0, other()),
+                   lambda doc: elements().__delitem__(2),
+                   lambda doc: elements().pop(),
+                   lambda doc: elements().__setitem__(1, other())):
+        body = body_of(document, change)
+        plain = [one for one in fields_of(type(other())) if one["kind"] not in
+                 ("object", "option", "options", "list") or one["is_table"]]
+        # A changed element is a line a field, and what is long is broken behind its brackets.
+        starts = [line for line in body.splitlines() if line.startswith(("doc.", "del "))]
+        assert 1 <= len(starts) <= max(len(plain), 1)
+        assert f".{name} = " not in body
 
 
 # ---- at random, against a plain model ------------------------------------------------------------
