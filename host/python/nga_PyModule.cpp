@@ -518,6 +518,11 @@ void DefineSession(py::module_& module) {
         .def_property(
             "opening", [](Session& s) { return Text(s.opening); },
             [](Session& s, py::handle opening) { s.opening = From(opening); })
+        .def("set_opened",
+             [](Session& s, py::handle opening, py::handle file) {
+                 s.opening = From(opening);
+                 s.opened = From(file);
+             })
         .def("enter", [](Session& s) { s.Enter(); })
         .def("save",
              [](Session& s) {
@@ -525,6 +530,8 @@ void DefineSession(py::module_& module) {
                  Interruptible const interruptible(&s);
                  ++s.stamp;
                  s.document.Save();
+                 // Here and not in a second call: a signal could come between the two.
+                 s.NoteSaved();
              })
         .def("save_as",
              [](Session& s, py::handle path) {
@@ -533,6 +540,7 @@ void DefineSession(py::module_& module) {
                  Interruptible const interruptible(&s);
                  ++s.stamp;
                  s.document.SaveAs(target);
+                 s.NoteSaved();
              })
         .def("undo",
              [](Session& s) {
@@ -567,9 +575,17 @@ void DefineSession(py::module_& module) {
                  return py::make_tuple(Text(s.history.NextUndo()), Text(s.history.NextRedo()));
              })
         .def("open_edit",
-             [](Session& s, py::handle why) {
+             [](Session& s, py::handle edit, py::handle why) {
                  s.Enter();
-                 return s.history.Open(From(why));
+                 std::size_t const number = s.history.Open(From(why));
+                 // Noted here, since a signal could come between this call and what keeps its
+                 // result; nobody could end the edit then.
+                 try {
+                     edit.attr("_number") = number;
+                 } catch (...) {
+                     s.history.RollBack(number);
+                     throw;
+                 }
              })
         .def("close_edit",
              [](Session& s, std::size_t edit) {

@@ -1,5 +1,7 @@
 #include "nga_PySession.h"
 
+#include <filesystem>
+
 #include "nga_Json.h"
 #include "nga_Names.h"
 #include "nga_Script.h"
@@ -23,6 +25,12 @@ void Session::RefuseAtWork() const {
     Fail(PyExc_RuntimeError, "the document " + Quoted(document.Name()) +
                                  " is in the midst of a call, and cannot be used by the handler of "
                                  "a signal");
+}
+
+void Session::NoteSaved() {
+    std::error_code none;
+    if (!opened.empty() && std::filesystem::equivalent(opened, document.File(), none))
+        opening.clear();
 }
 
 std::string Session::StartText() {

@@ -44,6 +44,10 @@ public:
     /// How a script comes to the document as it was before the first step; empty where there is no
     /// way but the content itself, which StartText() gives.
     std::string opening;
+    /// The file that this opens, if it opens one.
+    std::string opened;
+    /// To be called when the document was saved: that file may not be what it was any more.
+    void NoteSaved();
     /// The text of the content as it was before the first step.
     std::string StartText();
     /// Goes up with every write: what a handle knows of addresses is good for one value.

@@ -162,3 +162,51 @@ def test_a_handler_of_a_signal_finds_the_document_closed(large):
         signal.signal(signal.SIGALRM, former)
     assert len(refused) == 3 and all("in the midst of a call" in text for text in refused)
     assert large.materials["m0"].description == ""
+
+
+@pytest.fixture
+def stop_behind():
+    """Raises KeyboardInterrupt as soon as a function of the extension has returned, as a signal can,
+    before its result has a name."""
+    def arm(function):
+        def profile(frame, event, argument):
+            if event == "c_return" and getattr(argument, "__name__", "") == function:
+                sys.setprofile(None)
+                raise KeyboardInterrupt
+        sys.setprofile(profile)
+
+    yield arm
+    sys.setprofile(None)
+
+
+def test_an_edit_whose_opening_is_interrupted_blocks_nothing(doc, stop_behind):
+    steel = doc.Material(name="steel")
+    with pytest.raises(KeyboardInterrupt):
+        stop_behind("open_edit")
+        with doc.edit("never begun"):
+            steel.description = "a"
+    assert steel.description == "" and doc.undo() and doc.redo()
+
+
+def test_an_edit_whose_end_is_interrupted_is_done_whole(doc, stop_behind):
+    steel = doc.Material(name="steel")
+    with pytest.raises(KeyboardInterrupt):
+        with doc.edit("done"):
+            steel.description = "a"
+            stop_behind("close_edit")
+    assert steel.description == "a" and doc.undo_count == 2
+    assert doc.undo() and steel.description == ""
+
+
+def test_a_script_is_right_behind_a_save_that_was_interrupted_at_its_end(doc, tmp_path, stop_behind):
+    doc.Material(name="steel")
+    doc.save_as(tmp_path / "a.nga")
+    opened = nga.open(tmp_path / "a.nga")
+    opened.Material(name="iron")
+    with pytest.raises(KeyboardInterrupt):
+        stop_behind("save")
+        opened.save()
+    assert "iron" in nga.open(tmp_path / "a.nga").materials
+    space = {}
+    exec(opened.journal.script, space)
+    assert space["doc"].to_json() == opened.to_json()

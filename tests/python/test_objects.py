@@ -465,9 +465,13 @@ def test_options_are_assigned_by_key(doc, steel):
         steel.options["elstic"] = nga.Elastic()
     assert steel.elastic.table[0, 0] == 1.0
     assert steel.options.pop("elastic") is not None and len(steel.options) == 0
+    steps = doc.undo_count
+    for wrong in ({"elstic": nga.Elastic()}, {"density": nga.Elastic()}):
+        with pytest.raises((KeyError, TypeError)):
+            steel.options.update({"elastic": nga.Elastic()}, **wrong)
+    assert len(steel.options) == 0 and doc.undo_count == steps
     steel.options.update(elastic=nga.Elastic(), density=nga.Density())
-    assert list(steel.options) == ["density", "elastic"] or \
-        sorted(steel.options) == ["density", "elastic"]
+    assert sorted(steel.options) == ["density", "elastic"] and doc.undo_count == steps + 1
     steps = doc.undo_count
     steel.options.clear()
     assert len(steel.options) == 0 and doc.undo_count == steps + 1

@@ -89,9 +89,9 @@ class _Documents(collections.abc.Mapping[str, "Document"]):
 documents = _Documents()
 
 
-def _document(session: Any, opened: str | None = None) -> "Document":
+def _document(session: Any) -> "Document":
     from ._made import Document
-    return Document(session, opened)
+    return Document(session)
 
 
 def new(name: str) -> "Document":
@@ -148,8 +148,9 @@ def open(path: str | os.PathLike[str], name: str | None = None) -> "Document":
         if name is not None:
             session.name = name
     # How the journal's script comes to the start.
-    session.opening = f"nga.open({file!r})" if name is None else f"nga.open({file!r}, {name!r})"
-    return _document(session, os.path.abspath(file))
+    session.set_opened(f"nga.open({file!r})" if name is None else f"nga.open({file!r}, {name!r})",
+                       os.path.abspath(file))
+    return _document(session)
 
 
 def _plain(value):
@@ -224,7 +225,7 @@ class _Edit:
     def __enter__(self):
         if self._number is not None and self._session.has_edit(self._number):
             _nga.refuse("this edit is open already; another one begins with edit()")
-        self._number = self._session.open_edit(self._why)
+        self._session.open_edit(self, self._why)
         return self
 
     def __exit__(self, kind, value, trace):
@@ -248,19 +249,16 @@ class DocumentBase:
 
     # Nothing else can be kept in a document: a mistyped name is refused, and no handle of its own
     # keeps it alive.
-    __slots__ = ("_session", "_opened", "__weakref__")
+    __slots__ = ("_session", "__weakref__")
     _session: Any
-    _opened: str | None
     _collections: dict[str, int] = {}
 
-    def __init__(self, session, opened=None):
+    def __init__(self, session):
         if not isinstance(session, _nga.Session):
             raise TypeError("nga.new() and nga.open() make documents, not the class")
         if hasattr(self, "_session"):
             raise TypeError("this document is made already")
         object.__setattr__(self, "_session", session)
-        # The file that the journal's script opens, if it opens one.
-        object.__setattr__(self, "_opened", opened)
         documents._add(self)
 
     @property
@@ -284,18 +282,10 @@ class DocumentBase:
     def save(self) -> None:
         """Writes the file, whole or not at all."""
         self._session.save()
-        self._written()
 
     def save_as(self, path: str | os.PathLike[str]) -> None:
         """Writes another file, which becomes that of the document and names it."""
         self._session.save_as(_path(path))
-        self._written()
-
-    def _written(self):
-        # What the script would open is not what it was any more.
-        if self._opened is not None and os.path.exists(self._opened) and \
-                os.path.samefile(self._opened, self.file):
-            self._session.opening = ""
 
     # ---- time ----
     def edit(self, why: str = "") -> _Edit:
@@ -715,6 +705,13 @@ class Options(_Objects, collections.abc.MutableMapping[str, Any]):
 
     def __len__(self):
         return sum(1 for _ in self)
+
+    def update(self, *others, **more):
+        """Sets several options as one step, or none."""
+        given = dict(*others, **more)
+        for name in given:
+            self._require(name)
+        _nga.set_values(self._owner, given, False)
 
     def clear(self) -> None:
         """Takes all options away, as one step."""
