@@ -150,6 +150,27 @@ py::list Findings(std::vector<Finding> const& findings) {
     return list;
 }
 
+/// Gives what the work makes, which signals can end and to which the document is closed meanwhile.
+template <class Work>
+auto Long(Session& session, Work const& work) {
+    session.Enter();
+    Interruptible const interruptible(&session);
+    return work();
+}
+/// The same for an object. One that belongs to no document cannot be closed to the handler of a
+/// signal; the work gets a share of it then, which nobody else reaches.
+template <class Work>
+auto Long(Object* object, Work const& work) {
+    mdl_Description const& description = *object->state.description;
+    void const* const at = Resolve(object);
+    Session* const session = SessionOf(object);
+    DescribedObject const share(session ? nullptr : description.Copy(at),
+                                DescribedDeleter{&description});
+    Interruptible const interruptible(session);
+    return work(session ? at : static_cast<void const*>(share.get()));
+}
+CheckDepth DepthOf(bool deep) { return deep ? CheckDepth::All : CheckDepth::Asked; }
+
 void RequireKey(Session& session, Collection const& collection, std::string const& key) {
     RequireName(key, DocumentPath(session.document) + "." + collection.Name());
     int const code = collection.CodeOfName(key);
@@ -323,7 +344,8 @@ py::list Records(Session& session, std::size_t from) {
     session.Enter();
     py::list records;
     for (std::size_t i = from; i < session.records.size(); ++i) {
-        ChangeRecord const& record = session.records[i];
+        // A copy: making objects of Python's can run Python code, which may have them forgotten.
+        ChangeRecord const record = session.records[i];
         if (record.whole) {
             TupleOfPrimitive visitor;
             record.whole->Accept(&visitor);
@@ -404,12 +426,12 @@ py::object MakeIn(py::handle owner, std::string const& script, unsigned typeId, 
 py::object ToJson(py::handle handle) {
     Object* const object = Handle(handle);
     mdl_Description const& description = *object->state.description;
-    JsonWriter writer;
-    Defaults defaults;
-    void const* const at = Resolve(object);
-    Interruptible const interruptible(SessionOf(object));
-    WriteObject(writer, defaults, description, description, at, defaults.Of(description));
-    return Text(writer.TakeValue());
+    return Text(Long(object, [&](void const* at) {
+        JsonWriter writer;
+        Defaults defaults;
+        WriteObject(writer, defaults, description, description, at, defaults.Of(description));
+        return writer.TakeValue();
+    }));
 }
 
 py::object FromJson(unsigned typeId, py::handle text) {
@@ -526,21 +548,21 @@ void DefineSession(py::module_& module) {
         .def("enter", [](Session& s) { s.Enter(); })
         .def("save",
              [](Session& s) {
-                 s.Enter();
-                 Interruptible const interruptible(&s);
-                 ++s.stamp;
-                 s.document.Save();
-                 // Here and not in a second call: a signal could come between the two.
-                 s.NoteSaved();
+                 Long(s, [&] {
+                     ++s.stamp;
+                     s.document.Save();
+                     // Here and not in a second call: a signal could come between the two.
+                     s.NoteSaved();
+                 });
              })
         .def("save_as",
              [](Session& s, py::handle path) {
-                 s.Enter();
                  std::string const target = From(path);
-                 Interruptible const interruptible(&s);
-                 ++s.stamp;
-                 s.document.SaveAs(target);
-                 s.NoteSaved();
+                 Long(s, [&] {
+                     ++s.stamp;
+                     s.document.SaveAs(target);
+                     s.NoteSaved();
+                 });
              })
         .def("undo",
              [](Session& s) {
@@ -610,20 +632,10 @@ void DefineSession(py::module_& module) {
         .def("snapshot", [](Session& s) { return std::make_unique<KeptSnapshot>(s); })
         .def("findings",
              [](Session& s, bool deep) {
-                 s.Enter();
-                 std::vector<Finding> findings;
-                 {
-                     Interruptible const interruptible(&s);
-                     findings = Check(s.document, deep ? CheckDepth::All : CheckDepth::Asked);
-                 }
-                 return Findings(findings);
+                 return Findings(Long(s, [&] { return Check(s.document, DepthOf(deep)); }));
              })
         .def("export_json",
-             [](Session& s) {
-                 s.Enter();
-                 Interruptible const interruptible(&s);
-                 return Text(ExportJson(s.document));
-             })
+             [](Session& s) { return Text(Long(s, [&] { return ExportJson(s.document); })); })
         .def("import_json", Import)
         .def("records", Records)
         .def("record_count",
@@ -631,25 +643,14 @@ void DefineSession(py::module_& module) {
                  s.Enter();
                  return s.records.size();
              })
-        .def("start_text",
-             [](Session& s) {
-                 s.Enter();
-                 Interruptible const interruptible(&s);
-                 return Text(s.StartText());
-             })
+        .def("start_text", [](Session& s) { return Text(Long(s, [&] { return s.StartText(); })); })
         .def("script",
              [](Session& s, py::handle opening) {
-                 s.Enter();
                  std::string const start = From(opening);
-                 Interruptible const interruptible(&s);
-                 return Text(ScriptText(start, s.history));
+                 return Text(Long(s, [&] { return ScriptText(start, s.history); }));
              })
         .def("script_body",
-             [](Session& s) {
-                 s.Enter();
-                 Interruptible const interruptible(&s);
-                 return Text(ScriptBody(s.history));
-             })
+             [](Session& s) { return Text(Long(s, [&] { return ScriptBody(s.history); })); })
         .def("size",
              [](Session& s, std::size_t index) {
                  s.Enter();
@@ -706,14 +707,9 @@ void DefineObjects(py::module_& module) {
     });
     module.def("findings", [](py::handle handle, bool deep) {
         Object* const object = Handle(handle);
-        void const* const at = Resolve(object);
-        std::vector<Finding> findings;
-        {
-            Interruptible const interruptible(SessionOf(object));
-            findings = Check(*object->state.description, at, PathOf(object),
-                             deep ? CheckDepth::All : CheckDepth::Asked);
-        }
-        return Findings(findings);
+        return Findings(Long(object, [&](void const* at) {
+            return Check(*object->state.description, at, PathOf(object), DepthOf(deep));
+        }));
     });
     module.def("is_here", [](py::handle handle) { return IsHere(Handle(handle)); });
     // What was read stays right while this number stays.

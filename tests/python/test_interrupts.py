@@ -164,6 +164,33 @@ def test_a_handler_of_a_signal_finds_the_document_closed(large):
     assert large.materials["m0"].description == ""
 
 
+def test_a_handler_may_change_an_object_of_no_document_that_is_walked():
+    """It walks a share, so the handler can do as it likes."""
+    def tests(number):
+        return [nga.UniaxialTestData(table=((number, 2.0),)) for _ in range(3000)]
+
+    free = nga.MullinsEffect(uniaxialTests=tests(1.0), validate=False)
+    changed = []
+
+    def handler(number, frame):
+        free.uniaxialTests = []
+        free.uniaxialTests = tests(2.0)
+        changed.append(1)
+
+    former = signal.signal(signal.SIGALRM, handler)
+    try:
+        for attempt in range(30):
+            signal.setitimer(signal.ITIMER_REAL, 0.0005 + 0.0002 * attempt)
+            content = free.to_dict()
+            free.findings(deep=True)
+            assert len({one["table"][0][0] for one in content["uniaxialTests"]}) == 1
+        signal.setitimer(signal.ITIMER_REAL, 0)
+        assert changed
+    finally:
+        signal.setitimer(signal.ITIMER_REAL, 0)
+        signal.signal(signal.SIGALRM, former)
+
+
 @pytest.fixture
 def stop_behind():
     """Raises KeyboardInterrupt as soon as a function of the extension has returned, as a signal can,
