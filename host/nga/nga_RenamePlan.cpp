@@ -3,6 +3,8 @@
 #include <map>
 #include <set>
 
+#include "nga_Names.h"
+
 namespace nga {
 
 namespace {
@@ -10,27 +12,51 @@ namespace {
 using Name = std::pair<Collection const*, std::string>;
 constexpr std::size_t nothing = static_cast<std::size_t>(-1);
 
-class Planner {
-public:
-    explicit Planner(EditRun const& run) : m_changes(run.changes) {
+/// What renames made of the objects of a run. By the place of a change: where the object that is
+/// there behind the run was before it, and where the one that was there before is behind it.
+struct Moves {
+    explicit Moves(EditRun const& run) : changes(run.changes) {
         std::map<Name, std::size_t> places;
-        for (std::size_t i = 0; i < m_changes.size(); ++i) {
-            places.emplace(Name(m_changes[i].collection, m_changes[i].key.View()), i);
-            m_source.push_back(m_changes[i].before ? i : nothing);
-            m_isTaken.push_back(m_changes[i].before.has_value());
+        for (std::size_t i = 0; i < changes.size(); ++i) {
+            places.emplace(Name(changes[i].collection, changes[i].key.View()), i);
+            source.push_back(changes[i].before ? i : nothing);
         }
+        isTarget.assign(changes.size(), false);
         for (EntryRename const& rename : run.renames) {
             auto const from = places.find(Name(rename.collection, rename.from.View()));
             auto const to = places.find(Name(rename.collection, rename.to.View()));
             if (from == places.end() || to == places.end()) continue;
-            m_source[to->second] = m_source[from->second];
-            m_source[from->second] = nothing;
+            isTarget[to->second] = true;
+            source[to->second] = source[from->second];
+            source[from->second] = nothing;
         }
-        m_goal.assign(m_changes.size(), nothing);
-        for (std::size_t i = 0; i < m_changes.size(); ++i) {
-            if (m_source[i] != nothing && !IsStillThere(i)) m_source[i] = nothing;
-            if (m_source[i] != nothing) m_goal[m_source[i]] = i;
+        goal.assign(changes.size(), nothing);
+        for (std::size_t i = 0; i < changes.size(); ++i) {
+            if (source[i] != nothing && !IsStillThere(i)) source[i] = nothing;
+            if (source[i] != nothing) goal[source[i]] = i;
         }
+    }
+    /// Whether what came to stand there does so behind the run: it was not replaced by something of
+    /// another class since.
+    bool IsStillThere(std::size_t i) const {
+        EntryChange const& now = changes[i];
+        return now.after &&
+               now.collection->DynTypeIdOf(now.after->ErasedReferent()) ==
+                   now.collection->DynTypeIdOf(changes[source[i]].before->ErasedReferent());
+    }
+
+    std::vector<EntryChange> const& changes;
+    std::vector<std::size_t> source;
+    std::vector<std::size_t> goal;
+    /// Whether a rename of the run led there.
+    std::vector<bool> isTarget;
+};
+
+class Planner {
+public:
+    explicit Planner(EditRun const& run)
+        : m_moves(run), m_changes(run.changes), m_source(m_moves.source), m_goal(m_moves.goal) {
+        for (EntryChange const& change : m_changes) m_isTaken.push_back(change.before.has_value());
     }
 
     RenamePlan Plan() {
@@ -54,14 +80,6 @@ public:
     }
 
 private:
-    /// Whether what came to stand there by renames does so behind the run: it was not replaced by
-    /// something of another class since.
-    bool IsStillThere(std::size_t i) const {
-        EntryChange const& now = m_changes[i];
-        return now.after &&
-               now.collection->DynTypeIdOf(now.after->ErasedReferent()) ==
-                   now.collection->DynTypeIdOf(m_changes[m_source[i]].before->ErasedReferent());
-    }
     bool IsMoving(std::size_t i) const { return m_source[i] != nothing && m_source[i] != i; }
 
     void Step(std::size_t from, cow_String const& to) {
@@ -85,7 +103,7 @@ private:
     void Turn(std::size_t i) {
         std::size_t const aside = FreeBeside(i);
         if (aside == nothing) {
-            // Nobody could have renamed them like this; their contents are compared in place.
+            // Their contents are compared in place.
             for (std::size_t at = i; IsMoving(at);) {
                 std::size_t const from = m_source[at];
                 m_source[at] = at;
@@ -102,17 +120,25 @@ private:
         Step(aside, m_changes[last].key);
         m_isTaken[last] = true;
     }
+    /// A free name that the run gave to an object, or at least one that can be given: files may
+    /// have brought in others.
     std::size_t FreeBeside(std::size_t i) const {
-        for (std::size_t at = 0; at < m_changes.size(); ++at)
-            if (!m_isTaken[at] && m_changes[at].collection == m_changes[i].collection) return at;
-        return nothing;
+        std::size_t found = nothing;
+        for (std::size_t at = 0; at < m_changes.size(); ++at) {
+            EntryChange const& change = m_changes[at];
+            if (m_isTaken[at] || change.collection != m_changes[i].collection) continue;
+            if (m_moves.isTarget[at]) return at;
+            if (found == nothing && IsUsableName(change.key.View()) &&
+                change.collection->CodeOfName(change.key.View()) < 0)
+                found = at;
+        }
+        return found;
     }
 
+    Moves m_moves;
     std::vector<EntryChange> const& m_changes;
-    /// By the place of a change: where its object was before the run, and where that of before it
-    /// is now.
-    std::vector<std::size_t> m_source;
-    std::vector<std::size_t> m_goal;
+    std::vector<std::size_t>& m_source;
+    std::vector<std::size_t>& m_goal;
     std::vector<bool> m_isTaken;
     std::set<std::size_t> m_isFilled;
     RenamePlan m_plan;
@@ -126,28 +152,40 @@ RenamePlan PlanRenames(EditRun const& run) {
 }
 
 void DropPassing(std::vector<EditRun>& runs) {
-    std::set<Name> renamed;
-    for (EditRun const& run : runs)
-        for (EntryRename const& rename : run.renames) {
-            renamed.emplace(rename.collection, rename.from.View());
-            renamed.emplace(rename.collection, rename.to.View());
-        }
-    // The changes of each object since it was made, as long as it may still go.
-    std::map<Name, std::vector<EntryChange*>> made;
-    for (EditRun& run : runs)
-        for (EntryChange& change : run.changes) {
-            Name const name(change.collection, change.key.View());
-            if (renamed.count(name) != 0) continue;
-            std::vector<EntryChange*>& since = made[name];
-            if (since.empty() && change.before) continue;
-            since.push_back(&change);
-            if (change.after) continue;
-            for (EntryChange* passing : since) {
-                passing->before.reset();
-                passing->after.reset();
+    // What one run alone made and took away is not among its changes.
+    if (runs.size() < 2) return;
+    // For each object that a run made, by its name: all that says of it that it is there.
+    using Traces = std::vector<std::optional<cow_ErasedHandle>*>;
+    std::map<Name, Traces> made;
+    for (EditRun& run : runs) {
+        std::vector<EntryChange>& changes = run.changes;
+        Moves const moves(run);
+        auto const nameOf = [&](std::size_t i) {
+            return Name(changes[i].collection, changes[i].key.View());
+        };
+        std::vector<std::pair<Name, Traces>> moved;
+        std::vector<Traces> gone;
+        for (std::size_t i = 0; i < changes.size(); ++i) {
+            auto const found = made.find(nameOf(i));
+            if (found == made.end()) continue;
+            Traces traces = std::move(found->second);
+            made.erase(found);
+            traces.push_back(&changes[i].before);
+            std::size_t const goal = moves.goal[i];
+            if (goal == nothing) {
+                gone.push_back(std::move(traces));
+                continue;
             }
-            since.clear();
+            traces.push_back(&changes[goal].after);
+            moved.emplace_back(nameOf(goal), std::move(traces));
         }
+        for (auto& [name, traces] : moved) made[name] = std::move(traces);
+        for (std::size_t i = 0; i < changes.size(); ++i)
+            if (changes[i].after && moves.source[i] == nothing)
+                made[nameOf(i)] = {&changes[i].after};
+        for (Traces const& traces : gone)
+            for (std::optional<cow_ErasedHandle>* trace : traces) trace->reset();
+    }
 }
 
 }  // namespace nga

@@ -26,7 +26,7 @@ struct RenamePlan {
 RenamePlan PlanRenames(EditRun const& run);
 
 /// Takes out of the runs what leaves nothing behind: objects that one run made and a later one took
-/// away, unless a rename knows their names.
+/// away, under whatever name.
 void DropPassing(std::vector<EditRun>& runs);
 
 }  // namespace nga

@@ -95,6 +95,31 @@ TEST_F(RenamePlanTest, ObjectsChangePlacesByWayOfTheNameThatWasUsed) {
               "doc.materials.rename('aside', 'b')\n");
 }
 
+TEST_F(RenamePlanTest, TheNameUsedMayBeTakenByAThirdObjectInTheEnd) {
+    Begin({"a", "b", "third"});
+    Rename("a", "aside");
+    Rename("b", "a");
+    Rename("aside", "b");
+    Rename("third", "aside");
+    EXPECT_EQ(Body(),
+              "doc.materials.rename('third', 'aside')\n"
+              "doc.materials.rename('a', 'third')\n"
+              "doc.materials.rename('b', 'a')\n"
+              "doc.materials.rename('third', 'b')\n");
+}
+
+TEST_F(RenamePlanTest, ObjectsAreComparedInPlaceWhereOnlyAnUnusableNameIsFree) {
+    Begin({"a", "b", "from 'a file'"});
+    Rename("a", "aside");
+    Rename("b", "a");
+    Rename("aside", "b");
+    Rename("from 'a file'", "aside");
+    EXPECT_EQ(Body(),
+              "doc.materials.rename('from \\'a file\\'', 'aside')\n"
+              "doc.materials['a'].description = 'b'\n"
+              "doc.materials['b'].description = 'a'\n");
+}
+
 TEST_F(RenamePlanTest, ARenamedObjectThatWentLeavesItsRemoval) {
     Begin({"a"});
     Rename("a", "b");
@@ -129,6 +154,29 @@ TEST_F(RenamePlanTest, WhatWasMadeAndWentLeavesNothingAcrossReasons) {
     Remove("passing");
     m_history.Close(edit);
     EXPECT_EQ(Body(), "# change\ndoc.materials['steel'].description = 'b'\n");
+}
+
+TEST_F(RenamePlanTest, WhatWasMadeAndRenamedAndWentLeavesNothingEither) {
+    Begin({"steel"});
+    auto const because = [&](char const* why, auto const& work) {
+        std::size_t const edit = m_history.Open(why);
+        work();
+        m_history.Close(edit);
+    };
+    because("make", [&] { Insert("a"); });
+    because("rename", [&] {
+        Rename("a", "b");
+        Insert("a");
+    });
+    because("change", [&] { Describe("b", "on its way"); });
+    because("rename more", [&] { Rename("b", "c"); });
+    because("remove", [&] { Remove("c"); });
+    EXPECT_EQ(Body(), "# rename\ndoc.Material(name='a')\n");
+    because("remove all", [&] {
+        Remove("a");
+        Rename("steel", "a");
+    });
+    EXPECT_EQ(Body(), "# remove all\ndoc.materials.rename('steel', 'a')\n");
 }
 
 TEST_F(RenamePlanTest, AnInnerEditHandsItsRenamesToTheOuterOne) {
