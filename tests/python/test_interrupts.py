@@ -47,7 +47,8 @@ def interrupted(call, function):
             events.clear()
             killer = None
             try:
-                killer = subprocess.Popen(["sh", "-c", f"sleep {delay:.4f}; kill -INT {os.getpid()}"])
+                command = f"sleep {delay:.4f}; kill -INT {os.getpid()}"
+                killer = subprocess.Popen(["sh", "-c", command])
                 sys.setprofile(profile)
                 call()
                 sys.setprofile(None)
@@ -193,8 +194,8 @@ def test_a_handler_may_change_an_object_of_no_document_that_is_walked():
 
 @pytest.fixture
 def stop_behind():
-    """Raises KeyboardInterrupt as soon as a function of the extension has returned, as a signal can,
-    before its result has a name."""
+    """Raises KeyboardInterrupt as soon as a function of the extension has returned, as a signal
+    can, before its result has a name."""
     def arm(function):
         def profile(frame, event, argument):
             if event == "c_return" and getattr(argument, "__name__", "") == function:
@@ -225,7 +226,7 @@ def test_an_edit_whose_end_is_interrupted_is_done_whole(doc, stop_behind):
     assert doc.undo() and steel.description == ""
 
 
-def test_a_script_is_right_behind_a_save_that_was_interrupted_at_its_end(doc, tmp_path, stop_behind):
+def test_a_script_is_right_behind_a_save_that_a_signal_ended(doc, tmp_path, stop_behind):
     doc.Material(name="steel")
     doc.save_as(tmp_path / "a.nga")
     opened = nga.open(tmp_path / "a.nga")

@@ -310,7 +310,7 @@ class DocumentBase:
 
     def forget_history(self) -> None:
         """Lets go of all steps, so that none can be undone or done again, and of the records of the
-        journal, which begins anew here. Each step keeps what it replaced for as long as it is there;
+        journal, which begins anew here. Each step keeps what it replaced while it is there;
         sessions that make millions of steps call this from time to time."""
         self._session.forget()
 
@@ -669,8 +669,8 @@ def _restore(type_id, text):
 
 
 class Options(_Objects, collections.abc.MutableMapping[str, Any]):
-    """The optional objects of one object that are set, by name. Assigning None to one takes it away,
-    as with its attribute."""
+    """The optional objects of one object that are set, by name. Assigning None to one takes it
+    away, as with its attribute."""
 
     __slots__ = ("_owner",)
 
@@ -728,8 +728,8 @@ class Options(_Objects, collections.abc.MutableMapping[str, Any]):
 
 
 class ObjectList(collections.abc.MutableSequence[Any]):
-    """A list of objects in an object. Elements are reached by their places: what stands at [0] after
-    an insertion is what was inserted. To let two change places, copy one of them first."""
+    """A list of objects in an object. Elements are reached by their places: what stands at [0]
+    after an insertion is what was inserted. To let two change places, copy one of them first."""
 
     __slots__ = ("_owner", "_field")
 

@@ -2,8 +2,8 @@
 
 
 class _Wrapped:
-    """Stands behind a function as what it wraps, for its signature alone. There are hundreds, so each
-    is written when somebody asks for it."""
+    """Stands behind a function as what it wraps, for its signature alone. There are hundreds, so
+    each is written when somebody asks for it."""
 
     __slots__ = ("_made", "_first", "_named")
 
