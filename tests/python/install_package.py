@@ -1,7 +1,7 @@
 """Installs the package with pip, without a network, into virtual environments of its own, and uses
 it there: an empty one, and one as the page of the module has it made. Called with the project's
-folder and a build whose module is packed as it is. Ends with 77 where the interpreter has no virtual
-environments."""
+folder and a build whose module is packed as it is. Ends with 77 where the interpreter makes no
+virtual environments."""
 import importlib.util
 import os
 import pathlib
