@@ -401,6 +401,44 @@ Ref ElementOf(Object* owner, std::string const& script, int index) {
     return Held(owner, field, at, index);
 }
 
+namespace {
+
+FieldData const& NumbersOf(Object* owner, PyObject* name) {
+    FieldData const& data = FieldOf(*owner->state.description, name).data;
+    if (data.field->Type().Kind() != mdl_FieldKind::FloatMap)
+        Fail(PyExc_TypeError, "the field " + FromText(name) + " is no map of numbers");
+    return data;
+}
+
+}  // namespace
+
+void PutNumbers(Object* owner, PyObject* name, PyObject* entries) {
+    FieldData const& data = NumbersOf(owner, name);
+    FieldValue const value = FromPython(data, entries);
+    auto const& given = std::get<cow_Map<cow_String, float>>(value);
+    WriteTo(owner, [&](void* at) {
+        auto& map = *static_cast<cls_xpMapString2Float*>(data.field->At(at));
+        cow_ConstMapIterator<cow_String, float> position(given);
+        for (position.First(); !position.IsDone(); position.Next()) {
+            if (float* const there = map.Find(position.CurrentKey()))
+                *there = position.CurrentValue();
+            else
+                map.Insert(position.CurrentKey(), position.CurrentValue());
+        }
+    });
+}
+
+bool RemoveNumber(Object* owner, PyObject* name, PyObject* key) {
+    FieldData const& data = NumbersOf(owner, name);
+    if (!PyUnicode_Check(key)) return false;
+    cow_String const entry{std::string_view(FromText(key))};
+    if (!At<cls_xpMapString2Float>(data.field->At(Resolve(owner))).ConstFind(entry)) return false;
+    WriteTo(owner, [&](void* at) {
+        static_cast<cls_xpMapString2Float*>(data.field->At(at))->Remove(entry);
+    });
+    return true;
+}
+
 void SortTable(Object* object, std::string const& script, int columns) {
     Ref const name = ToText(script);
     FieldData const& data = FieldOf(*object->state.description, name.Get()).data;

@@ -36,6 +36,11 @@ Ref Put(Object* owner, std::string const& script, DescribedObject object);
 Ref ElementOf(Object* owner, std::string const& script, int index);
 int CountOf(Object* owner, std::string const& script);
 
+/// Sets entries of a map of numbers, and takes one away: false if it is not there. Either costs
+/// what it changes and not the map.
+void PutNumbers(Object* owner, PyObject* name, PyObject* entries);
+bool RemoveNumber(Object* owner, PyObject* name, PyObject* key);
+
 /// Refuses a field that holds no objects, or none of this class.
 void RequireHeld(mdl_Description const& owner, mdl_Field const& field,
                  mdl_Description const& given);

@@ -169,6 +169,14 @@ auto Long(Object* object, Work const& work) {
     Interruptible const interruptible(session);
     return work(session ? at : static_cast<void const*>(share.get()));
 }
+/// Does what may change the document as a whole.
+template <class Work>
+auto Recorded(Session& session, Work const& work) {
+    session.Enter();
+    Recording const recording(session);
+    ++session.stamp;
+    return work();
+}
 CheckDepth DepthOf(bool deep) { return deep ? CheckDepth::All : CheckDepth::Asked; }
 
 void RequireKey(Session& session, Collection const& collection, std::string const& key) {
@@ -564,20 +572,8 @@ void DefineSession(py::module_& module) {
                      s.NoteSaved();
                  });
              })
-        .def("undo",
-             [](Session& s) {
-                 s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 return s.history.Undo();
-             })
-        .def("redo",
-             [](Session& s) {
-                 s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 return s.history.Redo();
-             })
+        .def("undo", [](Session& s) { return Recorded(s, [&] { return s.history.Undo(); }); })
+        .def("redo", [](Session& s) { return Recorded(s, [&] { return s.history.Redo(); }); })
         .def("forget",
              [](Session& s) {
                  s.Enter();
@@ -610,19 +606,9 @@ void DefineSession(py::module_& module) {
                  }
              })
         .def("close_edit",
-             [](Session& s, std::size_t edit) {
-                 s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 s.history.Close(edit);
-             })
+             [](Session& s, std::size_t edit) { Recorded(s, [&] { s.history.Close(edit); }); })
         .def("roll_back",
-             [](Session& s, std::size_t edit) {
-                 s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 s.history.RollBack(edit);
-             })
+             [](Session& s, std::size_t edit) { Recorded(s, [&] { s.history.RollBack(edit); }); })
         .def("drop_edit", [](Session& s, std::size_t edit) { s.Drop(edit); })
         .def("has_edit",
              [](Session& s, std::size_t edit) {
@@ -697,6 +683,12 @@ void DefineObjects(py::module_& module) {
         Field& field = FieldOf(*object->state.description, name.ptr());
         mdl_Field const& described = DescribedFieldOf(*object->state.description, From(name));
         return Give(ValueOf(&field, described.At(Resolve(object))));
+    });
+    module.def("put_numbers", [](py::handle owner, py::handle name, py::dict entries) {
+        PutNumbers(Handle(owner), name.ptr(), entries.ptr());
+    });
+    module.def("remove_number", [](py::handle owner, py::handle name, py::handle key) {
+        return RemoveNumber(Handle(owner), name.ptr(), key.ptr());
     });
     module.def("sort", [](py::handle object, std::string const& script, int columns) {
         SortTable(Handle(object), script, columns);

@@ -76,3 +76,30 @@ def test_a_map_is_walked_in_one_reading(doc, monkeypatch):
     assert loads["load 0"] == -1.0
     doc.undo()
     assert loads["load 0"] == 1.0
+
+
+def test_a_map_is_written_without_reading_it(doc, monkeypatch):
+    case = doc.LoadCase(name="service", loads={f"load {i}": float(i + 1) for i in range(1000)})
+    steps = doc.undo_count
+    monkeypatch.setattr(nga._nga, "value", None)
+    loads = case.loads
+    loads["load 1"] = -1.0
+    loads["new"] = 0.5
+    del loads["load 2"]
+    loads.update({"load 3": -3.0}, more=1.0)
+    assert doc.undo_count == steps + 4
+    monkeypatch.undo()
+    assert (loads["load 1"], loads["new"], loads["load 3"], loads["more"]) == (-1.0, 0.5, -3.0, 1.0)
+    assert "load 2" not in loads and len(loads) == 1001
+    for wrong, kind in ((lambda: loads.__setitem__(5, 1.0), TypeError),
+                        (lambda: loads.__setitem__("x", "y"), TypeError),
+                        (lambda: loads.__setitem__("it's", 1.0), ValueError),
+                        (lambda: loads.update({"x": 1.0, "y": 1e300}), ValueError),
+                        (lambda: loads.__delitem__("load 2"), KeyError),
+                        (lambda: loads.__delitem__(5), KeyError)):
+        with pytest.raises(kind):
+            wrong()
+    assert doc.undo_count == steps + 4
+    for _ in range(4):
+        doc.undo()
+    assert dict(case.loads) == {f"load {i}": float(i + 1) for i in range(1000)}

@@ -843,20 +843,16 @@ class FloatMap(collections.abc.MutableMapping[str, float]):
         return values[name]
 
     def __setitem__(self, name, value):
-        setattr(self._owner, self._field, self._values() | {name: value})
+        _nga.put_numbers(self._owner, self._field, {name: value})
 
     def __delitem__(self, name):
-        values = dict(self._values())
-        if name not in values:
+        if not _nga.remove_number(self._owner, self._field, name):
+            # Says so, with near names.
             self[name]
-        del values[name]
-        setattr(self._owner, self._field, values)
 
     def update(self, *others, **more):
         """Sets several entries as one step."""
-        values = dict(self._values())
-        values.update(*others, **more)
-        setattr(self._owner, self._field, values)
+        _nga.put_numbers(self._owner, self._field, dict(*others, **more))
 
     def clear(self):
         """Takes all entries away, as one step."""
