@@ -526,7 +526,8 @@ void DefineSession(py::module_& module) {
         .def_property(
             "name",
             [](Session& s) {
-                s.Enter();
+                // Also in the midst of a call, or no document could be looked up by name then.
+                if (!s.isAtWork || !s.IsHere()) s.Enter();
                 return Text(s.document.Name());
             },
             [](Session& s, py::handle name) {

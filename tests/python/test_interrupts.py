@@ -135,17 +135,19 @@ def test_opening_is_interrupted(large, tmp_path):
 
 def test_a_handler_of_a_signal_finds_the_document_closed(large):
     """It runs in the midst of a walk, which must not lose its ground."""
+    elsewhere = nga.new("elsewhere")
     refused = []
 
     def handler(number, frame):
         for use in (lambda: large.materials["m0"].description,
-                    lambda: large.materials.rename("m0", "x"), lambda: large.name):
+                    lambda: large.materials.rename("m0", "x"), lambda: large.undo()):
             try:
                 use()
             except RuntimeError as failure:
                 refused.append(str(failure))
         # Another document is open to it.
-        nga.new("elsewhere").Material(name="steel")
+        assert nga.documents["elsewhere"] is elsewhere and nga.documents["large"] is large
+        elsewhere.Material(name=f"steel {len(elsewhere.materials)}")
 
     former = signal.signal(signal.SIGALRM, handler)
     try:
@@ -162,6 +164,7 @@ def test_a_handler_of_a_signal_finds_the_document_closed(large):
     finally:
         signal.signal(signal.SIGALRM, former)
     assert len(refused) == 3 and all("in the midst of a call" in text for text in refused)
+    assert len(elsewhere.materials) > 0
     assert large.materials["m0"].description == ""
 
 
