@@ -139,6 +139,13 @@ def test_a_handler_of_a_signal_finds_the_document_closed(large):
     refused = []
 
     def handler(number, frame):
+        try:
+            large.undo_count
+        except RuntimeError:
+            pass
+        else:
+            # It came before the call or behind it.
+            return
         for use in (lambda: large.materials["m0"].description,
                     lambda: large.materials.rename("m0", "x"), lambda: large.undo()):
             try:
