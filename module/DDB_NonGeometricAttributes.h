@@ -74,6 +74,7 @@
 #include "mdl_ExtensionWrapper.h"
 #include "mdl_FieldType.h"
 #include "mdl_FieldTypeOf.h"
+#include "mdl_Interruption.h"
 #include "mdl_MapOfCowsRepository.h"
 #include "mdl_MapString2ObjCow.h"
 #include "mdl_OdbExtensionTable.h"

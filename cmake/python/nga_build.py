@@ -39,15 +39,22 @@ def _run(*command: str) -> None:
 
 def _build(folder: str) -> pathlib.Path:
     """Builds the package for the interpreter that runs this; NGA_PYTHON_BUILD_DIR keeps the build
-    for the next time."""
+    for the next time, or is a build that somebody else has configured and that stays as it is."""
     build = os.environ.get("NGA_PYTHON_BUILD_DIR", folder)
+    ours = pathlib.Path(build) / "nga_build.txt"
+    if ours.exists() or not (pathlib.Path(build) / "CMakeCache.txt").exists():
+        _configure(build)
+        ours.write_text("configured to build a wheel\n")
+    _run("cmake", "--build", build, "--target", "nga_python")
+    return pathlib.Path(build) / "python"
+
+
+def _configure(build: str) -> None:
     # In a virtual environment the interpreter is found by its path, its headers by its home.
     _run("cmake", "-S", str(ROOT), "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
          "-DCMAKE_CXX_FLAGS_RELEASE=-O2", "-DNGA_BUILD_TESTS=OFF", "-DNGA_BUILD_BENCH=OFF",
          "-DNGA_UNITY=ON", "-DNGA_BUILD_PYTHON=ON", f"-DPython3_EXECUTABLE={sys.executable}",
          f"-DPython3_INCLUDE_DIR={sysconfig.get_path('include', 'posix_prefix', _base())}")
-    _run("cmake", "--build", build, "--target", "nga_python")
-    return pathlib.Path(build) / "python"
 
 
 def _base() -> dict[str, str]:
@@ -72,8 +79,10 @@ def pack(package: pathlib.Path, folder: str) -> str:
     """Makes the wheel of a package folder, and gives its name."""
     files = {f"nga/{path.name}": path.read_bytes() for path in sorted(package.iterdir())
              if path.suffix in (".py", ".pyi", ".so") or path.name == "py.typed"}
-    if not any(path.endswith(".so") for path in files):
-        sys.exit("the extension was not built: are python3-dev and pybind11-dev installed?")
+    extension = f"_nga{sysconfig.get_config_var('EXT_SUFFIX')}"
+    if f"nga/{extension}" not in files:
+        sys.exit(f"{extension} was not built: are python3-dev and pybind11-dev installed, for the "
+                 f"interpreter {sys.executable}?")
     return _packed(files, folder, f"{NAME}-{VERSION}-{_tag()}.whl")
 
 

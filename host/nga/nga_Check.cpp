@@ -3,6 +3,7 @@
 #include <set>
 
 #include "cls_xp.h"
+#include "mdl_Interruption.h"
 #include "nex_Exception.h"
 #include "nga_Budget.h"
 #include "nga_Names.h"
@@ -47,6 +48,7 @@ public:
           m_index(index) {}
 
     void Run() {
+        mdl_Interruption::Poll();
         try {
             m_description.RunRules(m_object, *this);
         } catch (nex_Exception const& failure) {
@@ -144,6 +146,7 @@ private:
 
 void AddUnusable(std::vector<std::string>& paths, Budget& budget,
                  mdl_Description const& description, void const* object, std::string const& path) {
+    mdl_Interruption::Poll();
     budget.Spend();
     for (mdl_Field const* field : description.AllFields()) {
         mdl_FieldType const& type = field->Type();

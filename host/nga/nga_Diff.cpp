@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "cls_xp.h"
+#include "mdl_Interruption.h"
 #include "nga_Error.h"
 #include "nga_FieldLiterals.h"
 #include "nga_Path.h"
@@ -42,6 +43,7 @@ public:
 
     void Objects(std::string const& path, mdl_Description const* one, void const* before,
                  mdl_Description const* other, void const* after) {
+        mdl_Interruption::Poll();
         if (before == after) return;
         if (!before || !after || one != other) {
             Found(path, Object(one, before), Object(other, after));

@@ -38,6 +38,7 @@ void History::Close(std::size_t edit) {
     Step& outer = m_open.back();
     for (KeptEntry& entry : step.kept)
         if (!Has(outer, *entry.collection, entry.key)) outer.kept.push_back(std::move(entry));
+    for (EntryRename& rename : step.renames) outer.renames.push_back(std::move(rename));
 }
 
 void History::RollBack(std::size_t edit) {
@@ -81,6 +82,17 @@ void History::Touch(Collection const& collection, cow_String const& key) {
         step.kept.push_back({&collection, key, collection.Hold(m_model, key)});
 }
 
+void History::Renamed(Collection const& collection, cow_String const& from, cow_String const& to) {
+    if (m_open.empty()) throw Error("a write belongs to an edit, and none is open");
+    m_open.back().renames.push_back({&collection, from, to});
+}
+
+void History::Forget() {
+    if (IsOpen()) throw Error("an edit is open, so its steps cannot be forgotten");
+    m_done.clear();
+    m_undone.clear();
+}
+
 void History::Exchange(Step& step) {
     for (std::size_t i = step.kept.size(); i-- > 0;) {
         KeptEntry& entry = step.kept[i];
@@ -115,7 +127,7 @@ std::vector<EditRun> History::Runs() const {
     std::vector<std::map<Name, std::size_t>> places;
     auto const add = [&](Step const& step) {
         if (runs.empty() || !step.why.empty() || !runs.back().why.empty()) {
-            runs.push_back({step.why, {}});
+            runs.push_back({step.why, {}, {}});
             places.emplace_back();
         }
         for (KeptEntry const& entry : step.kept) {
@@ -123,6 +135,7 @@ std::vector<EditRun> History::Runs() const {
             if (!places.back().emplace(name, runs.back().changes.size()).second) continue;
             runs.back().changes.push_back({entry.collection, entry.key, entry.state, std::nullopt});
         }
+        for (EntryRename const& rename : step.renames) runs.back().renames.push_back(rename);
     };
     for (Step const& step : m_done) add(step);
     for (Step const& step : m_open) add(step);

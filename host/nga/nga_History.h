@@ -28,15 +28,25 @@ struct EntryChange {
     std::optional<cow_ErasedHandle> after;
 };
 
+/// A named object that was given another name.
+struct EntryRename {
+    Collection const* collection;
+    cow_String from;
+    cow_String to;
+};
+
 /// What was done under one reason, or, without a reason, in a run of single steps.
 struct EditRun {
     std::string why;
     std::vector<EntryChange> changes;
+    /// In their order. Both names of each are among the changes.
+    std::vector<EntryRename> renames;
 };
 
 /// The steps of a session on one model, which can be undone and done again. Whoever writes to a
 /// named object says so first, within an edit; the object as it stood is kept by sharing, so a step
-/// costs what the write makes of it. An edit that fails is rolled back.
+/// costs what the write makes of it. An edit that fails is rolled back. Steps are kept until
+/// somebody has them forgotten: nothing else bounds them.
 class History {
 public:
     explicit History(ddr_Model& model) : m_model(model) {}
@@ -56,6 +66,13 @@ public:
 
     /// Keeps the object of this name, or that there is none, as it is before the open edit.
     void Touch(Collection const& collection, cow_String const& key);
+    /// Notes that what stood under a name stands under another one now. Both were touched by the
+    /// open edit before.
+    void Renamed(Collection const& collection, cow_String const& from, cow_String const& to);
+
+    /// Lets go of all steps, those to redo too, and with them of what only they still hold. Not
+    /// while an edit is open.
+    void Forget();
 
     /// False where there is nothing to undo. Not while an edit is open.
     bool Undo();
@@ -75,6 +92,7 @@ private:
         std::size_t number = 0;
         std::string why;
         std::vector<KeptEntry> kept;
+        std::vector<EntryRename> renames;
         /// The names in kept, once there are too many to look through.
         std::unique_ptr<std::unordered_set<std::string>> names;
     };

@@ -1,5 +1,6 @@
 #include "nga_Json.h"
 
+#include "mdl_Interruption.h"
 #include "nga_Collection.h"
 #include "nga_Error.h"
 #include "nga_Names.h"
@@ -122,6 +123,7 @@ std::vector<Imported> Import(Document& document, History* history, std::string_v
     Undo undo(model);
     for (Staged& entry : staged) {
         if (!entry.object) continue;
+        mdl_Interruption::Poll();
         if (history) history->Touch(*entry.collection, entry.key);
         entry.collection->Insert(model, entry.key, entry.object.release());
     }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
+#include "mdl_Interruption.h"
 #include "nga_Error.h"
 #include "nga_JsonWriter.h"
 #include "nga_Names.h"
@@ -219,6 +220,7 @@ private:
         return m_line;
     }
     JsonNode& Add(JsonNode::Kind kind) {
+        mdl_Interruption::Poll();
         JsonNode* node = &root;
         if (!m_open.empty()) {
             JsonNode& owner = *m_open.back();

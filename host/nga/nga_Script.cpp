@@ -1,244 +1,39 @@
 #include "nga_Script.h"
 
-#include <cmath>
 #include <cstring>
-#include <map>
 
 #include "cls_xp.h"
-#include "nga_Check.h"
-#include "nga_FieldLiterals.h"
+#include "mdl_Interruption.h"
 #include "nga_Fields.h"
 #include "nga_JsonWriter.h"
+#include "nga_ListEdits.h"
 #include "nga_Names.h"
 #include "nga_Path.h"
+#include "nga_RenamePlan.h"
+#include "nga_ScriptExpression.h"
 #include "nga_TextForm.h"
 
 namespace nga {
 
 namespace {
 
-constexpr std::size_t scriptWidth = 96;
-
-template <class T>
-T const& Read(void const* at) {
-    return *static_cast<T const*>(at);
-}
-
-/// A text as a literal that Python reads back byte for byte: a byte that is no UTF-8 is what the
-/// surrogateescape handler makes of it.
-std::string Literal(std::string_view text) {
-    std::string const quoted = Quoted(text);
-    std::string result;
-    for (std::size_t i = 0; i < quoted.size(); ++i) {
-        if (quoted[i] != '\\') {
-            result += quoted[i];
-            continue;
-        }
-        if (quoted[i + 1] == 'x' && quoted[i + 2] >= '8') {
-            result += "\\udc";
-            result += quoted.substr(i + 2, 2);
-            i += 3;
-        } else {
-            result += quoted.substr(i, 2);
-            ++i;
-        }
-    }
-    return result;
-}
-
-/// \p text is the number as JSON writes it, where the special ones are strings.
-std::string NumberText(std::string const& text) {
-    if (text[0] != '"') return text;
-    if (text == "\"NaN\"") return "float('nan')";
-    if (text == "\"Infinity\"") return "float('inf')";
-    if (text == "\"-Infinity\"") return "float('-inf')";
-    return "nga.real('" + text.substr(1, text.size() - 2) + "')";
-}
-std::string RealText(double value) { return NumberText(JsonWriter::DoubleText(value)); }
-
-/// Parts in brackets, on one line where they fit. One part of a tuple needs a comma behind it.
-std::string InBrackets(char const* open, std::vector<std::string> const& parts, char const* close,
-                       std::string const& indent) {
-    bool const tuple = *open == '(' && open[1] == '\0';
-    std::size_t length = indent.size() + 2;
-    bool lines = false;
-    for (std::string const& part : parts) {
-        length += part.size() + 2;
-        lines = lines || part.find('\n') != std::string::npos;
-    }
-    std::string text = open;
-    if (!lines && length <= scriptWidth) {
-        for (std::size_t i = 0; i < parts.size(); ++i) text += (i ? ", " : "") + parts[i];
-        if (tuple && parts.size() == 1) text += ',';
-        return text + close;
-    }
-    for (std::string const& part : parts) text += "\n" + indent + "    " + part + ",";
-    return text + "\n" + indent + close;
-}
-
-std::string RowsText(cow_2DArrayRep<double> const& cells, std::string const& indent) {
-    if (cells.Rows() == 0 && cells.Columns() > 0)
-        return "nga.empty_table(" + std::to_string(cells.Columns()) + ")";
-    std::vector<std::string> rows;
-    for (int row = 0; row < cells.Rows(); ++row) {
-        std::vector<std::string> numbers;
-        for (int column = 0; column < cells.Columns(); ++column)
-            numbers.push_back(RealText(cells.Cell(row, column)));
-        rows.push_back(InBrackets("(", numbers, ")", indent + "    "));
-    }
-    return InBrackets("(", rows, ")", indent);
-}
-
-std::string ObjectExpression(mdl_Description const& description, void const* object,
-                             std::string const& indent);
-
-std::string TableText(mdl_Description const& table, void const* object, void const* usual,
-                      std::string const& indent) {
-    std::vector<std::string> parts;
-    for (mdl_Field const* field : table.AllFields())
-        if (field->Type().Kind() == mdl_FieldKind::Bool &&
-            !field->Type().Same(field->At(object), field->At(usual)))
-            parts.push_back("'" + std::string(field->Script()) +
-                            "': " + (Read<bool>(field->At(object)) ? "True" : "False"));
-    std::string const rows =
-        RowsText(Read<cls_xp2DArrayDouble>(CellsOf(table).At(object)).ConstGet(), indent);
-    if (parts.empty()) return rows;
-    parts.push_back("'data': " + rows);
-    return InBrackets("{", parts, "}", indent);
-}
-
-/// The value of a plain number that has a word for it; empty for any other.
-std::string NumberWord(mdl_Description const& owner, mdl_Field const& field, void const* at) {
-    for (FieldLiteral const* row : LiteralsOf(owner, field)) {
-        double const value = field.Type().Kind() == mdl_FieldKind::Int
-                                 ? static_cast<double>(Read<int>(at))
-                                 : Read<double>(at);
-        if (value == row->value) return "nga." + std::string(row->literal);
-    }
-    return IsNotSet(field, at) ? "None" : "";
-}
-
-/// \p usual is the field of an object as its constructor makes it, or null.
-std::string ValueExpression(mdl_Description const& owner, mdl_Field const& field, void const* at,
-                            void const* usual, std::string const& indent) {
-    mdl_FieldType const& type = field.Type();
-    std::vector<std::string> parts;
-    switch (type.Kind()) {
-        case mdl_FieldKind::Int: {
-            std::string const word = NumberWord(owner, field, at);
-            return word.empty() ? std::to_string(Read<int>(at)) : word;
-        }
-        case mdl_FieldKind::Double: {
-            std::string const word = NumberWord(owner, field, at);
-            return word.empty() ? RealText(Read<double>(at)) : word;
-        }
-        case mdl_FieldKind::Bool:
-            return Read<bool>(at) ? "True" : "False";
-        case mdl_FieldKind::String:
-            return Literal(Read<cow_String>(at).View());
-        case mdl_FieldKind::Enum: {
-            omu_EnumRow const* row = omu_PrimEnumBase::FindRow(type.Rows(), type.Number(at));
-            return row ? "nga." + std::string(row->literal) : std::to_string(type.Number(at));
-        }
-        case mdl_FieldKind::Object:
-            if (IsTable(*type.Held())) {
-                if (usual) return TableText(*type.Held(), at, usual, indent);
-                DescribedObject const plain(type.Held()->Create(), DescribedDeleter{type.Held()});
-                return TableText(*type.Held(), at, plain.get(), indent);
-            }
-            return ObjectExpression(*type.Held(), type.ConstObject(at, 0), indent);
-        case mdl_FieldKind::Option: {
-            void const* const object = type.ConstObject(at, 0);
-            if (!object) return "None";
-            return ObjectExpression(*mdl_Description::Find(type.DynTypeIdOf(object)), object,
-                                    indent);
-        }
-        case mdl_FieldKind::OptionList:
-        case mdl_FieldKind::ObjectList:
-            for (int i = 0; i < type.Count(at); ++i) {
-                void const* const object = type.ConstObject(at, i);
-                parts.push_back(
-                    object ? ObjectExpression(*mdl_Description::Find(type.DynTypeIdOf(object)),
-                                              object, indent + "    ")
-                           : "None");
-            }
-            return InBrackets("[", parts, "]", indent);
-        case mdl_FieldKind::IntList:
-            for (int i = 0; i < Read<cls_xp1DArrayListInt>(at).Size(); ++i)
-                parts.push_back(std::to_string(Read<cls_xp1DArrayListInt>(at).ConstGet(i)));
-            return InBrackets("(", parts, ")", indent);
-        case mdl_FieldKind::DoubleList:
-            for (int i = 0; i < Read<cls_xp1DArrayListDouble>(at).Size(); ++i)
-                parts.push_back(RealText(Read<cls_xp1DArrayListDouble>(at).ConstGet(i)));
-            return InBrackets("(", parts, ")", indent);
-        case mdl_FieldKind::FloatMap: {
-            cow_ConstMapIterator<cow_String, float> position(Read<cls_xpMapString2Float>(at));
-            for (position.First(); !position.IsDone(); position.Next())
-                parts.push_back(Literal(position.CurrentKey().View()) + ": " +
-                                NumberText(JsonWriter::FloatText(position.CurrentValue())));
-            return InBrackets("{", parts, "}", indent);
-        }
-        case mdl_FieldKind::Array:
-            return RowsText(Read<cls_xp2DArrayDouble>(at).ConstGet(), indent);
-    }
-    return std::string();
-}
-
-/// "name=value" for each field that differs from the class's default, but for those that \p leave
-/// takes for itself; and what a constructor needs to let a broken object pass.
-template <class Leave>
-std::vector<std::string> ArgumentTexts(mdl_Description const& description, void const* object,
-                                       std::string const& indent, Leave const& leave) {
-    DescribedObject const usual(description.Create(), DescribedDeleter{&description});
-    std::vector<std::string> parts;
-    bool left = false;
-    for (mdl_Field const* field : description.AllFields()) {
-        void const* const at = field->At(object);
-        void const* const usualAt = field->At(usual.get());
-        if (field->Type().Same(at, usualAt)) continue;
-        if (leave(*field)) {
-            left = true;
-            continue;
-        }
-        parts.push_back(std::string(field->Script()) + "=" +
-                        ValueExpression(description, *field, at, usualAt, indent + "    "));
-    }
-    void const* checked = object;
-    DescribedObject bare(nullptr, DescribedDeleter{&description});
-    if (left) {
-        bare.reset(description.Copy(object));
-        for (mdl_Field const* field : description.AllFields())
-            if (leave(*field)) CopyField(*field, field->At(usual.get()), field->At(bare.get()));
-        checked = bare.get();
-    }
-    if (!Check(description, checked, std::string()).empty()) parts.push_back("validate=False");
-    return parts;
-}
-
-std::string ScriptClass(mdl_Description const& description) {
-    return description.Constructor() ? description.Constructor() : description.Name();
-}
-
-std::string ObjectExpression(mdl_Description const& description, void const* object,
-                             std::string const& indent) {
-    std::vector<std::string> const parts =
-        ArgumentTexts(description, object, indent, [](mdl_Field const&) { return false; });
-    return InBrackets(("nga." + ScriptClass(description) + "(").c_str(), parts, ")", indent);
-}
-
 class StatementWriter {
 public:
     std::string Take() { return std::move(m_text); }
 
+    /// A run of which nothing is left is not mentioned.
     void Run(EditRun const& run) {
+        std::string const former = std::exchange(m_text, std::string());
+        RenamePlan const plan = PlanRenames(run);
+        for (RenameStep const& step : plan.steps) Move(step);
+        for (EntryChange const& change : plan.left) Entry(change);
+        std::string const part = std::exchange(m_text, former);
+        if (part.empty()) return;
         if (!run.why.empty()) {
             if (!m_text.empty()) m_text += "\n";
             m_text += "# " + OneLine(run.why) + "\n";
         }
-        std::vector<bool> done(run.changes.size());
-        for (std::size_t i = 0; i < run.changes.size(); ++i) Renamed(run, i, done);
-        for (std::size_t i = 0; i < run.changes.size(); ++i)
-            if (!done[i]) Entry(run.changes[i]);
+        m_text += part;
     }
 
 private:
@@ -248,28 +43,21 @@ private:
             if (c == '\n') c = ' ';
         return line;
     }
-    static std::string Repository(EntryChange const& change) {
-        return std::string("doc.") + change.collection->Name();
+    static std::string Place(Collection const& collection, cow_String const& key) {
+        return std::string("doc.") + collection.Name() + "[" + TextLiteral(key.View()) + "]";
     }
 
-    /// An object that left one name and stands, the same, under another.
-    void Renamed(EditRun const& run, std::size_t i, std::vector<bool>& done) {
-        EntryChange const& from = run.changes[i];
-        if (done[i] || !from.before || from.after) return;
-        for (std::size_t j = 0; j < run.changes.size(); ++j) {
-            EntryChange const& to = run.changes[j];
-            if (done[j] || to.collection != from.collection || to.before || !to.after ||
-                !to.after->SharesWith(*from.before))
-                continue;
-            m_text += Repository(from) + ".rename(" + Literal(from.key.View()) + ", " +
-                      Literal(to.key.View()) + ")\n";
-            done[i] = done[j] = true;
-            return;
-        }
+    void Move(RenameStep const& step) {
+        if (step.to.View().empty())
+            m_text += "del " + Place(*step.collection, step.from) + "\n";
+        else
+            m_text += std::string("doc.") + step.collection->Name() + ".rename(" +
+                      TextLiteral(step.from.View()) + ", " + TextLiteral(step.to.View()) + ")\n";
     }
 
     void Entry(EntryChange const& change) {
-        std::string const place = Repository(change) + "[" + Literal(change.key.View()) + "]";
+        mdl_Interruption::Poll();
+        std::string const place = Place(*change.collection, change.key);
         if (!change.after) {
             if (change.before) m_text += "del " + place + "\n";
             return;
@@ -297,7 +85,7 @@ private:
                    !ConstructorOf(description, field).empty();
         };
         std::vector<std::string> parts = ArgumentTexts(description, object, "", apart);
-        parts.insert(parts.begin(), "name=" + Literal(change.key.View()));
+        parts.insert(parts.begin(), "name=" + TextLiteral(change.key.View()));
         std::vector<std::string> options;
         std::string const name = VariableName(description);
         for (mdl_Field const* field : description.AllFields()) {
@@ -338,33 +126,183 @@ private:
                 mdl_Field const& field, void const* one, void const* other) {
         mdl_FieldType const& type = field.Type();
         std::string const step = place + "." + field.Script();
-        mdl_FieldKind const kind = type.Kind();
-        bool const list = kind == mdl_FieldKind::OptionList || kind == mdl_FieldKind::ObjectList;
-        if (kind == mdl_FieldKind::Object && !IsTable(*type.Held())) {
-            Changes(step, *type.Held(), type.ConstObject(one, 0), type.ConstObject(other, 0));
-        } else if (type.Held() && kind != mdl_FieldKind::Object && SameClasses(type, one, other)) {
-            for (int i = 0; i < type.Count(other); ++i)
-                if (void const* const object = type.ConstObject(other, i))
-                    Changes(list ? step + IndexStep(i) : step,
-                            *mdl_Description::Find(type.DynTypeIdOf(object)),
-                            type.ConstObject(one, i), object);
-        } else if (kind == mdl_FieldKind::Option && type.ConstObject(other, 0) &&
-                   !ConstructorOf(description, field).empty()) {
-            m_text += Option(place, description, field, type.ConstObject(other, 0)) + "\n";
-        } else {
-            // What is there now has its own usual flags, which an assignment keeps.
-            m_text += step + " = " + ValueExpression(description, field, other, one, "") + "\n";
+        void const *before, *after;
+        switch (type.Kind()) {
+            case mdl_FieldKind::Object:
+                if (IsTable(*type.Held())) return Table(step, description, field, one, other);
+                return Changes(step, *type.Held(), type.ConstObject(one, 0),
+                               type.ConstObject(other, 0));
+            case mdl_FieldKind::Array:
+                return Cells(step, Whole(step, description, field, one, other),
+                             At<cls_xp2DArrayDouble>(one).ConstGet(),
+                             At<cls_xp2DArrayDouble>(other).ConstGet());
+            case mdl_FieldKind::Option:
+                before = type.ConstObject(one, 0);
+                after = type.ConstObject(other, 0);
+                if (before && after && type.DynTypeIdOf(before) == type.DynTypeIdOf(after))
+                    return Changes(step, ClassOf(type, after), before, after);
+                if (after && !ConstructorOf(description, field).empty()) {
+                    m_text += Option(place, description, field, after) + "\n";
+                    return;
+                }
+                break;
+            case mdl_FieldKind::OptionList:
+            case mdl_FieldKind::ObjectList:
+                return Shortest(Whole(step, description, field, one, other),
+                                [&] { Objects(step, type, one, other); });
+            case mdl_FieldKind::IntList:
+                return Numbers(step, Whole(step, description, field, one, other),
+                               At<cls_xp1DArrayListInt>(one), At<cls_xp1DArrayListInt>(other));
+            case mdl_FieldKind::DoubleList:
+                return Numbers(step, Whole(step, description, field, one, other),
+                               At<cls_xp1DArrayListDouble>(one),
+                               At<cls_xp1DArrayListDouble>(other));
+            case mdl_FieldKind::FloatMap:
+                return Shortest(Whole(step, description, field, one, other), [&] {
+                    Entries(step, At<cls_xpMapString2Float>(one), At<cls_xpMapString2Float>(other));
+                });
+            default:
+                break;
+        }
+        m_text += Whole(step, description, field, one, other);
+    }
+
+    template <class T>
+    static T const& At(void const* at) {
+        return *static_cast<T const*>(at);
+    }
+    static mdl_Description const& ClassOf(mdl_FieldType const& type, void const* object) {
+        return *mdl_Description::Find(type.DynTypeIdOf(object));
+    }
+
+    /// The statement that gives a field its value anew.
+    static std::string Whole(std::string const& step, mdl_Description const& description,
+                             mdl_Field const& field, void const* one, void const* other) {
+        // What is there now has its own usual flags, which an assignment keeps.
+        return step + " = " + ValueExpression(description, field, other, one, "") + "\n";
+    }
+    /// What \p edit writes, or the whole statement where that is not longer.
+    template <class Edit>
+    void Shortest(std::string const& whole, Edit const& edit) {
+        std::size_t const start = m_text.size();
+        edit();
+        if (m_text.size() - start > whole.size()) m_text.replace(start, std::string::npos, whole);
+    }
+
+    /// The elements of a list of objects, each in its turn, as the list is then.
+    void Objects(std::string const& step, mdl_FieldType const& type, void const* one,
+                 void const* other) {
+        int const count = type.Count(one);
+        auto const same = [&](int i, int j) {
+            void const *const a = type.ConstObject(one, i), *const b = type.ConstObject(other, j);
+            if (a == b || !a || !b) return a == b;
+            return type.DynTypeIdOf(a) == type.DynTypeIdOf(b) && ClassOf(type, a).Same(a, b);
+        };
+        int at = 0, length = count;
+        for (ListEdit const& edit : EditsOf(count, type.Count(other), same)) {
+            std::string const place = step + IndexStep(at);
+            void const* const after =
+                edit.what == ListEdit::What::Remove ? nullptr : type.ConstObject(other, edit.after);
+            auto const made = [&] {
+                return after ? ObjectExpression(ClassOf(type, after), after, "") : "None";
+            };
+            switch (edit.what) {
+                case ListEdit::What::Keep:
+                    break;
+                case ListEdit::What::Change: {
+                    void const* const before = type.ConstObject(one, edit.before);
+                    if (before && after && type.DynTypeIdOf(before) == type.DynTypeIdOf(after))
+                        Changes(place, ClassOf(type, after), before, after);
+                    else
+                        m_text += place + " = " + made() + "\n";
+                    break;
+                }
+                case ListEdit::What::Remove:
+                    m_text += "del " + place + "\n";
+                    --length;
+                    continue;
+                case ListEdit::What::Insert:
+                    if (at == length && after)
+                        m_text += step + ".append(" + made() + ")\n";
+                    else
+                        m_text += step + ".insert(" + std::to_string(at) + ", " + made() + ")\n";
+                    ++length;
+                    break;
+            }
+            ++at;
         }
     }
-    static bool SameClasses(mdl_FieldType const& type, void const* one, void const* other) {
-        if (type.Count(one) != type.Count(other)) return false;
-        for (int i = 0; i < type.Count(one); ++i) {
-            void const* const a = type.ConstObject(one, i);
-            void const* const b = type.ConstObject(other, i);
-            if (!a != !b || (a && type.DynTypeIdOf(a) != type.DynTypeIdOf(b))) return false;
-            if (!a && type.Kind() == mdl_FieldKind::Option) return false;
+
+    static bool SameNumber(int a, int b) { return a == b; }
+    static bool SameNumber(double a, double b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+    static std::string Number(int value) { return std::to_string(value); }
+    static std::string Number(double value) { return RealLiteral(value); }
+
+    /// Lists of numbers are tuples in scripts: what stays is taken out of the former one.
+    template <class List>
+    void Numbers(std::string const& step, std::string const& whole, List const& one,
+                 List const& other) {
+        int const before = one.Size(), after = other.Size();
+        int start = 0, kept = 0;
+        while (start < before && start < after &&
+               SameNumber(one.ConstGet(start), other.ConstGet(start)))
+            ++start;
+        while (before - kept > start && after - kept > start &&
+               SameNumber(one.ConstGet(before - kept - 1), other.ConstGet(after - kept - 1)))
+            ++kept;
+        std::vector<std::string> parts;
+        if (start > 0) parts.push_back("*" + step + "[:" + std::to_string(start) + "]");
+        for (int i = start; i < after - kept; ++i) parts.push_back(Number(other.ConstGet(i)));
+        if (kept > 0) parts.push_back("*" + step + "[" + std::to_string(before - kept) + ":]");
+        Shortest(whole, [&] { m_text += step + " = " + InBrackets("(", parts, ")", "") + "\n"; });
+    }
+
+    void Entries(std::string const& step, cls_xpMapString2Float const& one,
+                 cls_xpMapString2Float const& other) {
+        cow_ConstMapIterator<cow_String, float> former(one);
+        for (former.First(); !former.IsDone(); former.Next())
+            if (!other.ConstFind(former.CurrentKey()))
+                m_text += "del " + step + "[" + TextLiteral(former.CurrentKey().View()) + "]\n";
+        cow_ConstMapIterator<cow_String, float> now(other);
+        for (now.First(); !now.IsDone(); now.Next()) {
+            float const value = now.CurrentValue();
+            float const* const before = one.ConstFind(now.CurrentKey());
+            if (before && std::memcmp(before, &value, sizeof value) == 0) continue;
+            m_text += step + "[" + TextLiteral(now.CurrentKey().View()) +
+                      "] = " + NumberLiteral(JsonWriter::FloatText(value)) + "\n";
         }
-        return true;
+    }
+
+    void Table(std::string const& step, mdl_Description const& description, mdl_Field const& field,
+               void const* one, void const* other) {
+        std::string const whole = Whole(step, description, field, one, other);
+        mdl_Description const& table = *field.Type().Held();
+        mdl_Field const& cells = CellsOf(table);
+        for (mdl_Field const* flag : table.AllFields())
+            if (flag != &cells && !flag->Type().Same(flag->At(one), flag->At(other))) {
+                m_text += whole;
+                return;
+            }
+        Cells(step, whole, At<cls_xp2DArrayDouble>(cells.At(one)).ConstGet(),
+              At<cls_xp2DArrayDouble>(cells.At(other)).ConstGet());
+    }
+
+    /// Cells that were changed in a table that is long beside them. Tables are read-only arrays.
+    void Cells(std::string const& step, std::string const& whole, cow_2DArrayRep<double> const& one,
+               cow_2DArrayRep<double> const& other) {
+        if (one.Rows() != other.Rows() || one.Columns() != other.Columns()) {
+            m_text += whole;
+            return;
+        }
+        Shortest(whole, [&] {
+            m_text += "table = " + step + ".copy()\n";
+            for (int row = 0; row < one.Rows(); ++row)
+                for (int column = 0; column < one.Columns(); ++column)
+                    if (!SameNumber(one.Cell(row, column), other.Cell(row, column)))
+                        m_text += "table[" + std::to_string(row) + ", " + std::to_string(column) +
+                                  "] = " + RealLiteral(other.Cell(row, column)) + "\n";
+            m_text += step + " = table\n";
+        });
     }
 
     std::string m_text;
@@ -382,13 +320,15 @@ std::string ScriptObject(mdl_Description const& description, void const* object)
 
 std::string ScriptBody(History const& history) {
     StatementWriter writer;
-    for (EditRun const& run : history.Runs()) writer.Run(run);
+    std::vector<EditRun> runs = history.Runs();
+    DropPassing(runs);
+    for (EditRun const& run : runs) writer.Run(run);
     return writer.Take();
 }
 
 std::string ScriptOpening(Document const& document) {
-    if (document.File().empty()) return "nga.new(" + Literal(document.Name()) + ")";
-    return "nga.open(" + Literal(document.File()) + ")";
+    if (document.File().empty()) return "nga.new(" + TextLiteral(document.Name()) + ")";
+    return "nga.open(" + TextLiteral(document.File()) + ")";
 }
 
 std::string ScriptText(std::string const& opening, History const& history) {

@@ -5,6 +5,7 @@
 #include <random>
 #include <unordered_set>
 
+#include "mdl_Interruption.h"
 #include "nga_Collection.h"
 
 namespace nga {
@@ -225,6 +226,7 @@ public:
 
 private:
     void Object(Plan& plan, void const* object) {
+        mdl_Interruption::Poll();
         // The identity of the most derived level stands for the whole object: what was met at this
         // address was walked then. The cast only asks where the identity is.
         cls_Uid const& own = plan.levels.front()->Uid(const_cast<void*>(object));

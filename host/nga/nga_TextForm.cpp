@@ -2,6 +2,7 @@
 
 #include "cls_MetadataRegistrar.h"
 #include "cls_xp.h"
+#include "mdl_Interruption.h"
 #include "nga_FieldLiterals.h"
 #include "nga_Names.h"
 #include "omi_Singleton.h"
@@ -258,6 +259,7 @@ void WriteField(JsonWriter& writer, Defaults& defaults, mdl_Field const& field, 
 
 void WriteObject(JsonWriter& writer, Defaults& defaults, mdl_Description const& declared,
                  mdl_Description const& description, void const* object, void const* usual) {
+    mdl_Interruption::Poll();
     defaults.budget.Spend();
     if (IsTable(description) && &declared == &description) {
         WriteTable(writer, description, object, usual);

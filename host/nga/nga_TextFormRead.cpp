@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "cls_xp.h"
+#include "mdl_Interruption.h"
 #include "nga_Error.h"
 #include "nga_FieldLiterals.h"
 #include "nga_Names.h"
@@ -336,6 +337,7 @@ mdl_Description const& ClassOf(JsonNode const& node, JsonPlace const& place,
 
 DescribedObject ReadObject(JsonNode const& node, JsonPlace const& place,
                            mdl_Description const& declared) {
+    mdl_Interruption::Poll();
     if (node.kind == Kind::Array && !IsTable(declared))
         Require(node, place, Kind::Object, "an object");
     mdl_Description const& description = ClassOf(node, place, declared);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "cow_Btree.h"
@@ -22,10 +23,14 @@ public:
     template <class Visit>
     void Run(Visit const& visit) {
         while (!m_before.empty() || !m_after.empty()) {
+            ++m_looks;
             if (Skip() || Expand()) continue;
             Report(visit);
         }
     }
+
+    /// How often the walk looked at a node of either tree: what it costs.
+    std::size_t Looks() const { return m_looks; }
 
 private:
     /// What of a tree is still to come: a node alone, or with all below it.
@@ -77,6 +82,7 @@ private:
               order >= 0 ? &other->Value() : nullptr);
     }
 
+    std::size_t m_looks = 0;
     Rests m_before;
     Rests m_after;
 };

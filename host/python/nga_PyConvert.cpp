@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "cls_xp.h"
+#include "nex_CommandException.h"
 #include "nga_FieldLiterals.h"
 #include "nga_Fields.h"
 #include "nga_Names.h"
@@ -100,7 +101,13 @@ unsigned LiteralFrom(FieldData const& field, PyObject* value) {
         WrongType(field, value, "one of " + std::string(omu_PrimEnumBase::LiteralsOf(rows).View()));
     for (std::size_t i = 0; i < field.literals.size(); ++i)
         if (PyUnicode_Compare(field.literals[i], value) == 0) return rows[i].value;
-    omu_PrimEnumBase::RaiseLiteral(rows, FromText(value).c_str());
+    try {
+        omu_PrimEnumBase::RaiseLiteral(rows, FromText(value).c_str());
+    } catch (nex_CommandException const& failure) {
+        // The library's own words, behind where they belong.
+        Fail(BuiltIn(std::string(failure.PythonType().View())),
+             NameOf(field) + ": " + std::string(failure.UserReport().View()));
+    }
 }
 
 /// The elements of anything that can be walked, but for texts. A tuple of its own: converting an

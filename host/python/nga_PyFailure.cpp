@@ -25,6 +25,12 @@ void FailWith(PyObject* type, std::string const& message, PyObject* attributes) 
     throw Failure();
 }
 
+PyObject* BuiltIn(std::string const& name) {
+    if (name == "KeyError") return PyExc_KeyError;
+    if (name == "TypeError") return PyExc_TypeError;
+    return PyExc_ValueError;
+}
+
 namespace {
 
 void RaiseError(StoreError const& failure) {
@@ -40,13 +46,6 @@ void RaiseError(Error const& failure) {
     Ref const attributes(Py_BuildValue("{sOsOsisO}", "message", message.Get(), "place", place.Get(),
                                        "line", failure.Line(), "expected", expected.Get()));
     FailWith(exceptions.error, failure.what(), attributes.Get());
-}
-
-/// The built-in exception that the library names, for failures of commands.
-PyObject* BuiltIn(std::string const& name) {
-    if (name == "KeyError") return PyExc_KeyError;
-    if (name == "TypeError") return PyExc_TypeError;
-    return PyExc_ValueError;
 }
 
 void Raise(nex_Exception const& failure) {
@@ -93,7 +92,16 @@ std::string FromText(PyObject* text) {
     if (char const* const letters = PyUnicode_AsUTF8AndSize(text, &size))
         return std::string(letters, static_cast<std::size_t>(size));
     PyErr_Clear();
-    Ref const bytes(PyUnicode_AsEncodedString(text, "utf-8", "surrogateescape"));
+    PyObject* const encoded = PyUnicode_AsEncodedString(text, "utf-8", "surrogateescape");
+    if (!encoded) {
+        if (!PyErr_ExceptionMatches(PyExc_UnicodeEncodeError)) throw Failure();
+        PyErr_Clear();
+        Ref const shown(PyObject_ASCII(text));
+        Fail(PyExc_ValueError, "the text " + FromText(shown.Get()) +
+                                   " has half of a character in it (a lone surrogate); expected "
+                                   "whole characters");
+    }
+    Ref const bytes(encoded);
     return std::string(PyBytes_AS_STRING(bytes.Get()),
                        static_cast<std::size_t>(PyBytes_GET_SIZE(bytes.Get())));
 }

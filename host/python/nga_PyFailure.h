@@ -54,6 +54,9 @@ extern Exceptions exceptions;
 /// Raises an instance with these attributes beside its message.
 [[noreturn]] void FailWith(PyObject* type, std::string const& message, PyObject* attributes);
 
+/// The built-in exception that the library names, for failures of commands.
+PyObject* BuiltIn(std::string const& name);
+
 /// Sets Python's error indicator for a failure of the host or the library.
 void Translate(std::exception_ptr const& failure);
 
@@ -68,7 +71,8 @@ Result Guarded(Result failed, Body&& body) {
     }
 }
 
-/// Texts of the library may hold bytes that are no UTF-8: they pass as lone surrogates.
+/// Texts of the library may hold bytes that are no UTF-8: they pass as lone surrogates. Others of
+/// Python's texts than these cannot be kept: FromText() raises ValueError.
 Ref ToText(std::string_view text);
 std::string FromText(PyObject* text);
 std::string TypeNameOf(PyObject* object);

@@ -14,6 +14,7 @@ namespace {
 PyTypeObject* fieldType = nullptr;
 PyObject* listView = nullptr;
 PyObject* mapView = nullptr;
+PyObject* describeField = nullptr;
 
 Field* As(PyObject* self) { return reinterpret_cast<Field*>(self); }
 
@@ -169,7 +170,24 @@ PyObject* GetName(PyObject* self, void*) {
     return As(self)->data.name;
 }
 
+PyObject* GetClass(PyObject* self, void*) {
+    return Guarded<PyObject*>(nullptr, [&] {
+        return Ref::Share(reinterpret_cast<PyObject*>(ClassOf(*As(self)->data.owner))).Release();
+    });
+}
+/// Written when somebody asks: there are thousands of fields.
+PyObject* GetDoc(PyObject* self, void*) {
+    return Guarded<PyObject*>(nullptr, [&] {
+        Ref const owner(GetClass(self, nullptr));
+        return Ref(PyObject_CallFunctionObjArgs(describeField, owner.Get(), As(self)->data.name,
+                                                nullptr))
+            .Release();
+    });
+}
+
 PyGetSetDef getSet[] = {{"__name__", GetName, nullptr, nullptr, nullptr},
+                        {"__objclass__", GetClass, nullptr, nullptr, nullptr},
+                        {"__doc__", GetDoc, nullptr, nullptr, nullptr},
                         {nullptr, nullptr, nullptr, nullptr, nullptr}};
 PyType_Slot slots[] = {{Py_tp_dealloc, reinterpret_cast<void*>(Dealloc)},
                        {Py_tp_descr_get, reinterpret_cast<void*>(Get)},
@@ -216,11 +234,13 @@ Ref MakeField(mdl_Description const& owner, std::string const& script, PyObject*
     return result;
 }
 
-void SetViews(PyObject* list, PyObject* map) {
+void SetViews(PyObject* list, PyObject* map, PyObject* describe) {
     Py_INCREF(list);
     Py_INCREF(map);
+    Py_INCREF(describe);
     listView = list;
     mapView = map;
+    describeField = describe;
 }
 
 std::string ScriptPath(std::string const& path) {
@@ -379,6 +399,44 @@ Ref ElementOf(Object* owner, std::string const& script, int index) {
         Fail(PyExc_IndexError, PathOf(owner) + "." + script + " has " +
                                    std::to_string(field.Type().Count(at)) + " elements");
     return Held(owner, field, at, index);
+}
+
+namespace {
+
+FieldData const& NumbersOf(Object* owner, PyObject* name) {
+    FieldData const& data = FieldOf(*owner->state.description, name).data;
+    if (data.field->Type().Kind() != mdl_FieldKind::FloatMap)
+        Fail(PyExc_TypeError, "the field " + FromText(name) + " is no map of numbers");
+    return data;
+}
+
+}  // namespace
+
+void PutNumbers(Object* owner, PyObject* name, PyObject* entries) {
+    FieldData const& data = NumbersOf(owner, name);
+    FieldValue const value = FromPython(data, entries);
+    auto const& given = std::get<cow_Map<cow_String, float>>(value);
+    WriteTo(owner, [&](void* at) {
+        auto& map = *static_cast<cls_xpMapString2Float*>(data.field->At(at));
+        cow_ConstMapIterator<cow_String, float> position(given);
+        for (position.First(); !position.IsDone(); position.Next()) {
+            if (float* const there = map.Find(position.CurrentKey()))
+                *there = position.CurrentValue();
+            else
+                map.Insert(position.CurrentKey(), position.CurrentValue());
+        }
+    });
+}
+
+bool RemoveNumber(Object* owner, PyObject* name, PyObject* key) {
+    FieldData const& data = NumbersOf(owner, name);
+    if (!PyUnicode_Check(key)) return false;
+    cow_String const entry{std::string_view(FromText(key))};
+    if (!At<cls_xpMapString2Float>(data.field->At(Resolve(owner))).ConstFind(entry)) return false;
+    WriteTo(owner, [&](void* at) {
+        static_cast<cls_xpMapString2Float*>(data.field->At(at))->Remove(entry);
+    });
+    return true;
 }
 
 void SortTable(Object* object, std::string const& script, int columns) {

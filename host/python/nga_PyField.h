@@ -13,8 +13,9 @@ PyTypeObject* MakeFieldType();
 Ref MakeField(mdl_Description const& owner, std::string const& script, PyObject* literals,
               PyObject* words);
 
-/// What makes the Python views of lists of objects and of maps: called with handle and name.
-void SetViews(PyObject* list, PyObject* map);
+/// What makes the Python views of lists of objects and of maps: called with handle and name. And
+/// what describes a field in words: called with the class that has it and its name.
+void SetViews(PyObject* list, PyObject* map, PyObject* describe);
 
 /// A text of a path as Python reads it: bytes that are no UTF-8 are the surrogates that stand for
 /// them.
@@ -34,6 +35,11 @@ DescribedObject MakeObject(mdl_Description const& description, PyObject* fields,
 Ref Put(Object* owner, std::string const& script, DescribedObject object);
 Ref ElementOf(Object* owner, std::string const& script, int index);
 int CountOf(Object* owner, std::string const& script);
+
+/// Sets entries of a map of numbers, and takes one away: false if it is not there. Either costs
+/// what it changes and not the map.
+void PutNumbers(Object* owner, PyObject* name, PyObject* entries);
+bool RemoveNumber(Object* owner, PyObject* name, PyObject* key);
 
 /// Refuses a field that holds no objects, or none of this class.
 void RequireHeld(mdl_Description const& owner, mdl_Field const& field,

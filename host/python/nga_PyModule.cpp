@@ -150,6 +150,35 @@ py::list Findings(std::vector<Finding> const& findings) {
     return list;
 }
 
+/// Gives what the work makes, which signals can end and to which the document is closed meanwhile.
+template <class Work>
+auto Long(Session& session, Work const& work) {
+    session.Enter();
+    Interruptible const interruptible(&session);
+    return work();
+}
+/// The same for an object. One that belongs to no document cannot be closed to the handler of a
+/// signal; the work gets a share of it then, which nobody else reaches.
+template <class Work>
+auto Long(Object* object, Work const& work) {
+    mdl_Description const& description = *object->state.description;
+    void const* const at = Resolve(object);
+    Session* const session = SessionOf(object);
+    DescribedObject const share(session ? nullptr : description.Copy(at),
+                                DescribedDeleter{&description});
+    Interruptible const interruptible(session);
+    return work(session ? at : static_cast<void const*>(share.get()));
+}
+/// Does what may change the document as a whole.
+template <class Work>
+auto Recorded(Session& session, Work const& work) {
+    session.Enter();
+    Recording const recording(session);
+    ++session.stamp;
+    return work();
+}
+CheckDepth DepthOf(bool deep) { return deep ? CheckDepth::All : CheckDepth::Asked; }
+
 void RequireKey(Session& session, Collection const& collection, std::string const& key) {
     RequireName(key, DocumentPath(session.document) + "." + collection.Name());
     int const code = collection.CodeOfName(key);
@@ -264,6 +293,7 @@ void RenameEntry(Session& session, std::size_t index, py::handle from, py::handl
     Writing writing(session);
     writing.Touch(collection, old);
     writing.Touch(collection, fresh);
+    session.history.Renamed(collection, old, fresh);
     collection.Remove(model, old);
     collection.Restore(model, fresh, held);
     writing.Close();
@@ -271,10 +301,12 @@ void RenameEntry(Session& session, std::size_t index, py::handle from, py::handl
 
 py::list Keys(Session& session, std::size_t index) {
     session.Enter();
-    py::list keys;
-    CollectionAt(index).Each(session.document.Model(), [&](cow_String const& key, void const*) {
-        keys.append(Text(key.View()));
-    });
+    // Making objects of Python's can run Python code, which may write to the document.
+    std::vector<cow_String> names;
+    CollectionAt(index).Each(session.document.Model(),
+                             [&](cow_String const& key, void const*) { names.push_back(key); });
+    py::list keys(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) keys[i] = Text(names[i].View());
     return keys;
 }
 
@@ -284,10 +316,15 @@ py::list Import(Session& session, py::handle given, std::string const& onConflic
     OnConflict const rule = onConflict == "replace" ? OnConflict::Replace
                             : onConflict == "keep"  ? OnConflict::Keep
                                                     : OnConflict::Error;
-    Recording const recording(session);
-    ++session.stamp;
+    std::vector<Imported> lines;
+    {
+        Recording const recording(session);
+        Interruptible const interruptible(&session);
+        ++session.stamp;
+        lines = ImportRecorded(session.document, session.history, text, rule);
+    }
     py::list report;
-    for (Imported const& line : ImportRecorded(session.document, session.history, text, rule))
+    for (Imported const& line : lines)
         report.append(py::make_tuple(line.collection, line.added, line.replaced, line.kept));
     return report;
 }
@@ -315,7 +352,8 @@ py::list Records(Session& session, std::size_t from) {
     session.Enter();
     py::list records;
     for (std::size_t i = from; i < session.records.size(); ++i) {
-        ChangeRecord const& record = session.records[i];
+        // A copy: making objects of Python's can run Python code, which may have them forgotten.
+        ChangeRecord const record = session.records[i];
         if (record.whole) {
             TupleOfPrimitive visitor;
             record.whole->Accept(&visitor);
@@ -360,6 +398,7 @@ py::list DiffOf(KeptSnapshot const& before, KeptSnapshot const& after, std::stri
     if (before.thread != PyThread_get_thread_ident() || after.thread != before.thread)
         Fail(PyExc_RuntimeError, "a snapshot belongs to the thread that took it");
     py::list list;
+    Interruptible const interruptible;
     Diff(before.snapshot, after.snapshot, root, {relative, absolute},
          [&](Difference const& difference) {
              list.append(py::make_tuple(Text(ScriptPath(difference.path)),
@@ -395,20 +434,24 @@ py::object MakeIn(py::handle owner, std::string const& script, unsigned typeId, 
 py::object ToJson(py::handle handle) {
     Object* const object = Handle(handle);
     mdl_Description const& description = *object->state.description;
-    JsonWriter writer;
-    Defaults defaults;
-    WriteObject(writer, defaults, description, description, Resolve(object),
-                defaults.Of(description));
-    return Text(writer.TakeValue());
+    return Text(Long(object, [&](void const* at) {
+        JsonWriter writer;
+        Defaults defaults;
+        WriteObject(writer, defaults, description, description, at, defaults.Of(description));
+        return writer.TakeValue();
+    }));
 }
 
 py::object FromJson(unsigned typeId, py::handle text) {
     mdl_Description const& description = DescriptionAt(typeId);
+    Interruptible const interruptible;
     return Give(OwnedObject(ReadObject(ParseJson(From(text)), JsonPlace(), description)));
 }
 
 bool Same(py::handle a, py::handle b) {
     Object *const one = Handle(a), *const other = Handle(b);
+    RequireHere(one);
+    RequireHere(other);
     return one->state.description == other->state.description &&
            one->state.description->Same(Resolve(one), Resolve(other));
 }
@@ -468,11 +511,14 @@ void DefineSession(py::module_& module) {
         .def_static(
             "new",
             [](py::handle name) { return std::make_shared<Session>(Document::New(From(name))); })
-        .def_static(
-            "open",
-            [](py::handle path) { return std::make_shared<Session>(Document::Open(From(path))); })
+        .def_static("open",
+                    [](py::handle path) {
+                        Interruptible const interruptible;
+                        return std::make_shared<Session>(Document::Open(From(path)));
+                    })
         .def_static("from_json",
                     [](py::handle name, py::handle text) {
+                        Interruptible const interruptible;
                         Document document = Document::New(From(name));
                         ImportJson(document, From(text));
                         return std::make_shared<Session>(std::move(document));
@@ -480,7 +526,8 @@ void DefineSession(py::module_& module) {
         .def_property(
             "name",
             [](Session& s) {
-                s.Enter();
+                // Also in the midst of a call, or no document could be looked up by name then.
+                if (!s.isAtWork || !s.IsHere()) s.Enter();
                 return Text(s.document.Name());
             },
             [](Session& s, py::handle name) {
@@ -502,32 +549,39 @@ void DefineSession(py::module_& module) {
         .def_property(
             "opening", [](Session& s) { return Text(s.opening); },
             [](Session& s, py::handle opening) { s.opening = From(opening); })
+        .def("set_opened",
+             [](Session& s, py::handle opening, py::handle file) {
+                 s.opening = From(opening);
+                 s.opened = From(file);
+             })
         .def("enter", [](Session& s) { s.Enter(); })
         .def("save",
              [](Session& s) {
-                 s.Enter();
-                 ++s.stamp;
-                 s.document.Save();
+                 Long(s, [&] {
+                     ++s.stamp;
+                     s.document.Save();
+                     // Here and not in a second call: a signal could come between the two.
+                     s.NoteSaved();
+                 });
              })
         .def("save_as",
              [](Session& s, py::handle path) {
-                 s.Enter();
-                 ++s.stamp;
-                 s.document.SaveAs(From(path));
+                 std::string const target = From(path);
+                 Long(s, [&] {
+                     ++s.stamp;
+                     s.document.SaveAs(target);
+                     s.NoteSaved();
+                 });
              })
-        .def("undo",
+        .def("undo", [](Session& s) { return Recorded(s, [&] { return s.history.Undo(); }); })
+        .def("redo", [](Session& s) { return Recorded(s, [&] { return s.history.Redo(); }); })
+        .def("forget",
              [](Session& s) {
                  s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 return s.history.Undo();
-             })
-        .def("redo",
-             [](Session& s) {
-                 s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 return s.history.Redo();
+                 // A script begins here from now on, and nothing else may have what is here.
+                 if (s.history.UndoCount() > 0) s.opening.clear();
+                 s.history.Forget();
+                 s.records.clear();
              })
         .def("counts",
              [](Session& s) {
@@ -540,24 +594,22 @@ void DefineSession(py::module_& module) {
                  return py::make_tuple(Text(s.history.NextUndo()), Text(s.history.NextRedo()));
              })
         .def("open_edit",
-             [](Session& s, py::handle why) {
+             [](Session& s, py::handle edit, py::handle why) {
                  s.Enter();
-                 return s.history.Open(From(why));
+                 std::size_t const number = s.history.Open(From(why));
+                 // Noted here, since a signal could come between this call and what keeps its
+                 // result; nobody could end the edit then.
+                 try {
+                     edit.attr("_number") = number;
+                 } catch (...) {
+                     s.history.RollBack(number);
+                     throw;
+                 }
              })
         .def("close_edit",
-             [](Session& s, std::size_t edit) {
-                 s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 s.history.Close(edit);
-             })
+             [](Session& s, std::size_t edit) { Recorded(s, [&] { s.history.Close(edit); }); })
         .def("roll_back",
-             [](Session& s, std::size_t edit) {
-                 s.Enter();
-                 Recording const recording(s);
-                 ++s.stamp;
-                 s.history.RollBack(edit);
-             })
+             [](Session& s, std::size_t edit) { Recorded(s, [&] { s.history.RollBack(edit); }); })
         .def("drop_edit", [](Session& s, std::size_t edit) { s.Drop(edit); })
         .def("has_edit",
              [](Session& s, std::size_t edit) {
@@ -567,14 +619,10 @@ void DefineSession(py::module_& module) {
         .def("snapshot", [](Session& s) { return std::make_unique<KeptSnapshot>(s); })
         .def("findings",
              [](Session& s, bool deep) {
-                 s.Enter();
-                 return Findings(Check(s.document, deep ? CheckDepth::All : CheckDepth::Asked));
+                 return Findings(Long(s, [&] { return Check(s.document, DepthOf(deep)); }));
              })
         .def("export_json",
-             [](Session& s) {
-                 s.Enter();
-                 return Text(ExportJson(s.document));
-             })
+             [](Session& s) { return Text(Long(s, [&] { return ExportJson(s.document); })); })
         .def("import_json", Import)
         .def("records", Records)
         .def("record_count",
@@ -582,21 +630,14 @@ void DefineSession(py::module_& module) {
                  s.Enter();
                  return s.records.size();
              })
-        .def("start_text",
-             [](Session& s) {
-                 s.Enter();
-                 return Text(s.StartText());
-             })
+        .def("start_text", [](Session& s) { return Text(Long(s, [&] { return s.StartText(); })); })
         .def("script",
              [](Session& s, py::handle opening) {
-                 s.Enter();
-                 return Text(ScriptText(From(opening), s.history));
+                 std::string const start = From(opening);
+                 return Text(Long(s, [&] { return ScriptText(start, s.history); }));
              })
         .def("script_body",
-             [](Session& s) {
-                 s.Enter();
-                 return Text(ScriptBody(s.history));
-             })
+             [](Session& s) { return Text(Long(s, [&] { return ScriptBody(s.history); })); })
         .def("size",
              [](Session& s, std::size_t index) {
                  s.Enter();
@@ -644,6 +685,12 @@ void DefineObjects(py::module_& module) {
         mdl_Field const& described = DescribedFieldOf(*object->state.description, From(name));
         return Give(ValueOf(&field, described.At(Resolve(object))));
     });
+    module.def("put_numbers", [](py::handle owner, py::handle name, py::dict entries) {
+        PutNumbers(Handle(owner), name.ptr(), entries.ptr());
+    });
+    module.def("remove_number", [](py::handle owner, py::handle name, py::handle key) {
+        return RemoveNumber(Handle(owner), name.ptr(), key.ptr());
+    });
     module.def("sort", [](py::handle object, std::string const& script, int columns) {
         SortTable(Handle(object), script, columns);
     });
@@ -653,8 +700,16 @@ void DefineObjects(py::module_& module) {
     });
     module.def("findings", [](py::handle handle, bool deep) {
         Object* const object = Handle(handle);
-        return Findings(Check(*object->state.description, Resolve(object), PathOf(object),
-                              deep ? CheckDepth::All : CheckDepth::Asked));
+        return Findings(Long(object, [&](void const* at) {
+            return Check(*object->state.description, at, PathOf(object), DepthOf(deep));
+        }));
+    });
+    module.def("is_here", [](py::handle handle) { return IsHere(Handle(handle)); });
+    // What was read stays right while this number stays.
+    module.def("stamp", [](py::handle handle) {
+        Object* const object = Handle(handle);
+        Resolve(object);
+        return StampOf(object);
     });
     module.def("to_json", ToJson);
     module.def("from_json", FromJson);
@@ -723,8 +778,9 @@ PYBIND11_MODULE(_nga, module) {
                                 py::tuple words) {
         return Give(MakeField(DescriptionAt(typeId), script, literals.ptr(), words.ptr()));
     });
-    module.def("set_views",
-               [](py::handle list, py::handle map) { SetViews(list.ptr(), map.ptr()); });
+    module.def("set_views", [](py::handle list, py::handle map, py::handle describe) {
+        SetViews(list.ptr(), map.ptr(), describe.ptr());
+    });
     module.def("diff", DiffOf);
     DefineSession(module);
     DefineObjects(module);

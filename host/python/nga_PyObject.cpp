@@ -108,15 +108,19 @@ int SetAttribute(PyObject* self, PyObject* name, PyObject* value) {
 
 PyObject* GetPath(PyObject* self, void*) {
     return Guarded<PyObject*>(nullptr, [&]() -> PyObject* {
+        RequireHere(As(self));
         if (!SessionOf(As(self))) Py_RETURN_NONE;
         return ToText(PathOf(As(self))).Release();
     });
 }
 PyObject* GetDocument(PyObject* self, void*) {
-    ObjectState const& root = As(self)->state.root->state;
-    if (!root.session) Py_RETURN_NONE;
-    Py_INCREF(root.owner);
-    return root.owner;
+    return Guarded<PyObject*>(nullptr, [&]() -> PyObject* {
+        RequireHere(As(self));
+        ObjectState const& root = As(self)->state.root->state;
+        if (!root.session) Py_RETURN_NONE;
+        Py_INCREF(root.owner);
+        return root.owner;
+    });
 }
 PyObject* GetAlive(PyObject* self, void*) {
     return Guarded<PyObject*>(nullptr, [&]() -> PyObject* {
@@ -255,7 +259,12 @@ void const* Follow(Object* object, std::uint64_t stamp) {
 
 }  // namespace
 
-void const* Resolve(Object* object) {
+bool IsHere(Object* object) {
+    ObjectState const& root = object->state.root->state;
+    return root.session ? root.session->IsHere() : root.thread == PyThread_get_thread_ident();
+}
+
+void RequireHere(Object* object) {
     ObjectState const& root = object->state.root->state;
     if (root.session)
         root.session->Enter();
@@ -263,6 +272,10 @@ void const* Resolve(Object* object) {
         Fail(PyExc_RuntimeError,
              "this object belongs to the thread that made it, and cannot be "
              "used from another");
+}
+
+void const* Resolve(Object* object) {
+    RequireHere(object);
     return Follow(object, StampOf(object));
 }
 

@@ -58,6 +58,9 @@ Ref ChildObject(Object* owner, mdl_Field const& field, int index,
                 mdl_Description const& description);
 Ref OwnedObject(DescribedObject object);
 
+/// Whether the object belongs to this thread, and refuses another one.
+bool IsHere(Object* object);
+void RequireHere(Object* object);
 /// The object itself. Raises ReferenceError if the way to it leads nowhere any more.
 void const* Resolve(Object* object);
 /// The same for writing, within a Writing where there is a document.

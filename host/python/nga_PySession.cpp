@@ -1,5 +1,7 @@
 #include "nga_PySession.h"
 
+#include <filesystem>
+
 #include "nga_Json.h"
 #include "nga_Names.h"
 #include "nga_Script.h"
@@ -17,6 +19,18 @@ void Session::RefuseThread() const {
          "the document " + Quoted(document.Name()) +
              " belongs to the thread that opened it, and cannot be used from another; open it "
              "there, or hand over its text (to_dict)");
+}
+
+void Session::RefuseAtWork() const {
+    Fail(PyExc_RuntimeError, "the document " + Quoted(document.Name()) +
+                                 " is in the midst of a call, and cannot be used by the handler of "
+                                 "a signal");
+}
+
+void Session::NoteSaved() {
+    std::error_code none;
+    if (!opened.empty() && std::filesystem::equivalent(opened, document.File(), none))
+        opening.clear();
 }
 
 std::string Session::StartText() {
@@ -81,6 +95,17 @@ void Listen() {
 }
 
 }  // namespace
+
+Interruptible::Interruptible(Session* session)
+    : m_session(session), m_former(mdl_Interruption::Set([] {
+          if (PyErr_CheckSignals() != 0) throw Failure();
+      })) {
+    if (m_session) m_session->isAtWork = true;
+}
+Interruptible::~Interruptible() {
+    if (m_session) m_session->isAtWork = false;
+    mdl_Interruption::Set(m_former);
+}
 
 Recording::Recording(Session& session) : m_former(recorded) {
     Listen();

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "mdl_Interruption.h"
 #include "nga_Diff.h"
 #include "nga_Document.h"
 #include "nga_History.h"
@@ -43,6 +44,10 @@ public:
     /// How a script comes to the document as it was before the first step; empty where there is no
     /// way but the content itself, which StartText() gives.
     std::string opening;
+    /// The file that this opens, if it opens one.
+    std::string opened;
+    /// To be called when the document was saved: that file may not be what it was any more.
+    void NoteSaved();
     /// The text of the content as it was before the first step.
     std::string StartText();
     /// Goes up with every write: what a handle knows of addresses is good for one value.
@@ -50,9 +55,13 @@ public:
     /// The handles of named objects, so that one object has one handle. None is owned.
     std::map<std::pair<Collection const*, std::string>, Object*> roots;
 
-    /// Refuses a call from another thread.
+    /// A call walks through the document, and asks Python between two objects whether to end.
+    bool isAtWork = false;
+
+    /// Refuses a call from another thread, and from within a call that walks through the document.
     void Enter() {
         if (!IsHere()) RefuseThread();
+        if (isAtWork) RefuseAtWork();
         if (!m_dropped.empty()) RollBackDropped();
     }
     bool IsHere() const { return PyThread_get_thread_ident() == m_thread; }
@@ -62,6 +71,7 @@ public:
 
 private:
     [[noreturn]] void RefuseThread() const;
+    [[noreturn]] void RefuseAtWork() const;
     void RollBackDropped();
 
     std::vector<std::size_t> m_dropped;
@@ -78,6 +88,21 @@ public:
 
 private:
     Session* m_former;
+};
+
+/// While it lives, calls that walk over many objects end with what a signal's handler raises, such
+/// as KeyboardInterrupt. Handlers are Python code that runs in the midst of the walk, so the
+/// document that is walked refuses them.
+class Interruptible {
+public:
+    explicit Interruptible(Session* session = nullptr);
+    ~Interruptible();
+    Interruptible(Interruptible const&) = delete;
+    Interruptible& operator=(Interruptible const&) = delete;
+
+private:
+    Session* m_session;
+    mdl_Interruption::Question m_former;
 };
 
 /// One write to a document: an edit that is recorded, and that is rolled back unless closed.

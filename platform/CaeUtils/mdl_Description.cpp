@@ -4,6 +4,7 @@
 #include <map>
 
 #include "cls_MetadataRegistrar.h"
+#include "mdl_Interruption.h"
 #include "omi_Singleton.h"
 
 mdl_Description::mdl_Description(mdl_ClassFacts const& facts, mdl_FieldRow const* rows, int count)
@@ -32,11 +33,13 @@ std::vector<mdl_Field const*> mdl_Description::AllFields() const {
 }
 
 void mdl_Description::WriteFields(void const* object, cls_WriteVisitor const& visitor) const {
+    mdl_Interruption::Poll();
     for (mdl_Field const& field : m_fields)
         field.Type().Write(field.At(object), visitor, field.Handle());
 }
 
 void mdl_Description::ReadFields(void* object, cls_ReadVisitor const& visitor) const {
+    mdl_Interruption::Poll();
     for (mdl_Field const& field : m_fields)
         field.Type().Read(field.At(object), visitor, field.Handle());
 }

@@ -102,6 +102,15 @@ def test_a_difference_to_anything_else_is_a_type_error(doc):
             doc.diff(wrong)
 
 
+def test_a_tolerance_that_is_no_number_is_a_type_error(doc, steel):
+    before = doc.snapshot()
+    for name in ("relative", "absolute"):
+        for wrong in ("x", None, [1.0], 1j):
+            with pytest.raises(TypeError, match=f"^{name}: .* cannot stand here; expected a number"):
+                doc.diff(before, **{name: wrong})
+        assert doc.diff(before, **{name: 1}) == []
+
+
 pytestmark_tool = pytest.mark.skipif(not TOOL, reason="the tool is not there")
 
 

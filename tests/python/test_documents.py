@@ -341,3 +341,15 @@ def test_every_path_of_every_example_leads_to_its_object(example):
     assert objects
     for item in objects:
         assert eval(item.path, {"documents": nga.documents}) is item
+
+
+def test_a_path_with_half_a_character_is_told(doc, tmp_path):
+    for name in ("a\ud800.nga", "a\ud800.json"):
+        for use in (lambda: nga.open(name), lambda: doc.save_as(name)):
+            with pytest.raises(nga.StoreError, match="half of a character") as failure:
+                use()
+            assert failure.value.path == name and "lone surrogate" in failure.value.cause
+    # Bytes that are no text are names of files all the same.
+    odd = str(tmp_path / "odd \udcff.nga")
+    doc.save_as(odd)
+    assert nga.open(odd).name == "odd \udcff"

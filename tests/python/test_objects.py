@@ -1,9 +1,14 @@
+import collections.abc
 import copy
+import inspect
 import pickle
+import threading
+import xml.dom.minidom
 
 import pytest
 
 import nga
+from conftest import concrete_classes, fields_of
 
 
 @pytest.fixture
@@ -378,3 +383,255 @@ def test_a_constructor_of_another_class_and_a_view_of_no_list_are_refused(doc):
             len(nga.ObjectList(density, field))
         with pytest.raises((TypeError, AttributeError)):
             nga.ObjectList(density, field).append(nga.Elastic())
+
+
+# ---- what tools ask of classes -------------------------------------------------------------------
+
+@pytest.mark.parametrize("cls", concrete_classes(), ids=lambda cls: cls.__name__)
+def test_every_class_tells_its_signature(cls):
+    signature = inspect.signature(cls)
+    names = [field["script"] for field in fields_of(cls)]
+    assert list(signature.parameters) == [*names, "validate"]
+    assert all(one.kind is one.KEYWORD_ONLY for one in signature.parameters.values())
+    # What it gives as defaults makes the same object as giving nothing.
+    defaults = {name: signature.parameters[name].default for name in names}
+    assert cls(**(defaults | {"validate": False})) == cls(validate=False)
+    values = inspect.signature(cls(validate=False).setValues)
+    assert list(values.parameters) == [*names, "validate"]
+
+
+def test_constructors_tell_their_signatures(doc, steel):
+    fields = [field["script"] for field in fields_of(nga.Elastic)]
+    assert list(inspect.signature(steel.Elastic).parameters) == [*fields, "validate"]
+    assert list(inspect.signature(nga.Material.Elastic).parameters) == ["self", *fields, "validate"]
+    assert inspect.signature(steel.Elastic).parameters["moduli"].default is nga.LONG_TERM
+    assert list(inspect.signature(doc.LoadCase).parameters)[0] == "name"
+    assert inspect.signature(doc.LoadCase).parameters["name"].default is inspect.Parameter.empty
+    hinge = doc.ConnectorSection(name="hinge")
+    assert "components" in inspect.signature(hinge.ConnectorDamping).parameters
+    inspect.signature(steel.Elastic).bind(table=((1.0, 2.0),), validate=False)
+    with pytest.raises(TypeError):
+        inspect.signature(steel.Elastic).bind(tabel=())
+    # Of what cannot be made, and of classes of one's own, Python says what it can.
+    assert inspect.signature(nga.kmaC_MaterialOption)
+    assert inspect.signature(type("Own", (nga.Elastic,), {}))
+
+
+def test_fields_are_documented():
+    assert nga.Elastic.moduli.__doc__ == "one of INSTANTANEOUS, LONG_TERM (default LONG_TERM)"
+    assert nga.Elastic.table.__doc__ == "a table: rows of numbers (default ())"
+    assert nga.Elastic.dependencies.__doc__ == "an integer (default 0)"
+    assert nga.Elastic.failStress.__doc__ == "a FailStress, or None"
+    assert nga.Hyperelastic.beta.__doc__.startswith("a number, or FITTED_VALUE")
+    assert nga.Elastic.moduli.__objclass__ is nga.Elastic
+    for cls in concrete_classes():
+        for field in fields_of(cls):
+            assert getattr(cls, field["script"]).__doc__
+
+
+def test_a_mistyped_name_of_the_module_gets_near_ones():
+    with pytest.raises(AttributeError, match="'Elsatic' .did you mean .*'Elastic'"):
+        nga.Elsatic
+    with pytest.raises(AttributeError, match="ISOTROPIC"):
+        nga.ISOTROPC
+    with pytest.raises(AttributeError, match="no attribute '__nothing__'$"):
+        nga.__nothing__
+    assert not hasattr(nga, "_nothing")
+    with pytest.raises(ImportError):
+        from nga import Elsatic
+
+
+def test_objects_are_no_keys(doc, steel):
+    """They are equal by content, and that changes."""
+    free = nga.Density(table=((1.0,),))
+    for item in (steel, free, doc.materials, steel.options):
+        with pytest.raises(TypeError, match="unhashable type"):
+            hash(item)
+        with pytest.raises(TypeError, match="unhashable type"):
+            {item: 1}
+        assert not isinstance(item, collections.abc.Hashable)
+    assert {steel.path: 1}[steel.path] == 1 and hash(doc) == hash(doc)
+
+
+def test_options_are_assigned_by_key(doc, steel):
+    steel.options["density"] = nga.Density(table=((1.0,),))
+    assert steel.density.table[0, 0] == 1.0
+    steel.options["density"] = None
+    assert steel.density is None
+    steel.options["elastic"] = nga.Elastic(table=((1.0, 0.3),))
+    with pytest.raises(TypeError, match="Material.elastic"):
+        steel.options["elastic"] = nga.Density(table=((1.0,),))
+    with pytest.raises(KeyError, match="did you mean 'elastic'"):
+        steel.options["elstic"] = nga.Elastic()
+    assert steel.elastic.table[0, 0] == 1.0
+    assert steel.options.pop("elastic") is not None and len(steel.options) == 0
+    steps = doc.undo_count
+    for wrong in ({"elstic": nga.Elastic()}, {"density": nga.Elastic()}):
+        with pytest.raises((KeyError, TypeError)):
+            steel.options.update({"elastic": nga.Elastic()}, **wrong)
+    assert len(steel.options) == 0 and doc.undo_count == steps
+    steel.options.update(elastic=nga.Elastic(), density=nga.Density())
+    assert sorted(steel.options) == ["density", "elastic"] and doc.undo_count == steps + 1
+    steps = doc.undo_count
+    steel.options.clear()
+    assert len(steel.options) == 0 and doc.undo_count == steps + 1
+
+
+def test_all_options_are_assigned_as_one_step(doc, steel):
+    steel.Elastic(table=((1.0, 0.3),))
+    iron = doc.Material(name="iron")
+    iron.Density(table=((2.0,),))
+    iron.Plastic(table=((3.0, 0.0),))
+    steps = doc.undo_count
+    steel.options = iron.options
+    assert sorted(steel.options) == ["density", "plastic"] and doc.undo_count == steps + 1
+    assert steel.density == iron.density and steel.elastic is None
+    steel.options = {"elastic": nga.Elastic()}
+    assert list(steel.options) == ["elastic"]
+    text = doc.to_json()
+    for wrong, kind in ((5, TypeError), ([nga.Elastic()], TypeError), (None, TypeError),
+                        ({"elstic": nga.Elastic()}, KeyError),
+                        ({"density": nga.Density(), "elastic": 5}, TypeError)):
+        with pytest.raises(kind):
+            steel.options = wrong
+    with pytest.raises(TypeError, match="expected a mapping of names and objects"):
+        steel.options = 5
+    assert doc.to_json() == text
+    steel.options = {}
+    assert len(steel.options) == 0
+
+
+def test_views_show_themselves_in_a_notebook(doc, steel):
+    steel.Elastic(type=nga.LAMINA, table=((1.0, 2.0),))
+    mullins = steel.MullinsEffect(validate=False)
+    assert "no elements" in mullins.uniaxialTests._repr_html_()
+    mullins.uniaxialTests = [nga.UniaxialTestData(table=((float(i), 2.0),)) for i in range(30)]
+    case = doc.LoadCase(name="service", loads={"<wind>": 1.5})
+    free = nga.Material(elastic=nga.Elastic(type=nga.LAMINA))
+    for view, parts in ((steel.options, ("elastic", "LAMINA", "materials[")),
+                        (mullins.uniaxialTests, ("[0]", "[19]", "10 more elements", "19.0")),
+                        (case.loads, ("&lt;wind&gt;", "1.5")),
+                        (free.options, ("elastic", "LAMINA", "Material")),
+                        (doc.Material(name="empty").options, ("none is set",))):
+        text = view._repr_html_()
+        xml.dom.minidom.parseString(f"<div>{text}</div>")
+        for part in parts:
+            assert part in text
+    options = steel.options
+    del doc.materials["steel"]
+    assert "(gone)" in options._repr_html_()
+
+
+def test_everything_of_an_object_is_refused_in_another_thread(doc, steel):
+    elastic = steel.Elastic(table=((1.0, 2.0),))
+    mullins = steel.MullinsEffect(validate=False)
+    case = doc.LoadCase(name="service", loads={"wind": 1.0})
+    free = nga.Density(table=((1.0,),))
+    options, tests, loads = steel.options, mullins.uniaxialTests, case.loads
+    uses = [
+        lambda: elastic.path, lambda: elastic.document, lambda: elastic.alive,
+        lambda: elastic == free, lambda: elastic.type, lambda: elastic.table,
+        lambda: elastic.to_dict(), lambda: elastic.validate(), lambda: elastic.findings(),
+        lambda: elastic.setValues(type=nga.LAMINA), lambda: elastic.sort(1),
+        lambda: elastic.FailStress(validate=False), lambda: copy.copy(elastic),
+        lambda: pickle.dumps(elastic), lambda: elastic._repr_html_(),
+        lambda: setattr(elastic, "type", nga.LAMINA), lambda: delattr(steel, "elastic"),
+        lambda: options["elastic"], lambda: len(options), lambda: list(options),
+        lambda: options.clear(), lambda: setattr(steel, "options", {}),
+        lambda: len(tests), lambda: tests.append(nga.UniaxialTestData()), lambda: tests[0],
+        lambda: loads["wind"], lambda: dict(loads), lambda: loads.update(wind=2.0),
+        lambda: doc.materials["steel"], lambda: doc.materials.path, lambda: list(doc.materials),
+        lambda: doc.forget_history(), lambda: doc.edit().__enter__(), lambda: doc.findings(),
+        lambda: doc.validate(), lambda: doc.journal.body, lambda: doc._repr_html_(),
+        lambda: free.path, lambda: free.document, lambda: free.alive, lambda: free.table,
+        lambda: options._repr_html_(), lambda: tests._repr_html_(), lambda: loads._repr_html_()]
+    refused, shown = [], []
+
+    def misuse():
+        for use in uses:
+            try:
+                refused.append(("passed", use()))
+            except RuntimeError as failure:
+                refused.append(str(failure))
+        shown.extend(map(repr, (elastic, free, options, tests, loads, doc.materials, doc.journal)))
+
+    text = doc.to_json()
+    thread = threading.Thread(target=misuse)
+    thread.start()
+    thread.join()
+    assert len(refused) == len(uses)
+    assert [one for one in refused if "belongs to the thread" not in one] == []
+    assert all("of another thread" in one for one in shown) and len(shown) == 7
+    assert doc.to_json() == text
+
+
+def test_the_text_of_a_wrong_literal_says_where(doc, steel):
+    elastic = steel.Elastic()
+    for use in (lambda: setattr(elastic, "type", "ISO"), lambda: elastic.setValues(type="ISO"),
+                lambda: nga.Elastic(type="ISO"), lambda: steel.Elastic(type="ISO")):
+        with pytest.raises(ValueError, match=r"^Elastic\.type: .*ISOTROPIC") as failure:
+            use()
+        assert not isinstance(failure.value, nga.ValidationError)
+
+
+def test_half_a_character_is_refused_where_texts_are_kept(doc, steel):
+    half = "half \ud800"
+    for use in (lambda: setattr(steel, "description", half), lambda: doc.Material(name=half),
+                lambda: nga.new(half), lambda: doc.materials[half],
+                lambda: doc.materials.rename("steel", half),
+                lambda: doc.LoadCase(name="x", loads={half: 1.0})):
+        with pytest.raises(ValueError, match=r"'half \\ud800' has half of a character"):
+            use()
+    assert steel.description == "" and list(doc.materials) == ["steel"]
+
+
+def test_what_is_taken_away_is_given_as_an_object_of_no_document(doc, steel):
+    steel.Density(table=((1.0,),))
+    mullins = steel.MullinsEffect(validate=False)
+    mullins.uniaxialTests = [nga.UniaxialTestData(table=((float(i), 1.0),)) for i in range(5)]
+    tests = mullins.uniaxialTests
+    assert tests.pop(1).table[0, 0] == 1.0 and tests.pop().table[0, 0] == 4.0
+    assert [one.table[0, 0] for one in tests] == [0.0, 2.0, 3.0]
+    tests.reverse()
+    assert [one.table[0, 0] for one in tests] == [3.0, 2.0, 0.0]
+    with pytest.raises(IndexError):
+        tests.pop(3)
+    density = steel.options.pop("density")
+    assert density == nga.Density(table=((1.0,),)) and density.path is None
+    assert steel.options.pop("density", 5) == 5
+    with pytest.raises(KeyError):
+        steel.options.pop("density")
+    steel.Elastic(table=((2.0, 0.3),))
+    name, taken = steel.options.popitem()
+    assert name == "elastic" and taken.table[0, 0] == 2.0 and steel.elastic is None
+    with pytest.raises(KeyError):
+        steel.options.popitem()
+    steel.description = "taken"
+    taken = doc.materials.pop("steel")
+    assert taken.description == "taken" and not steel.alive
+    assert doc.materials.pop("steel", None) is None
+
+
+def test_views_change_as_one_step(doc, steel):
+    other = nga.new("other")
+    for name in ("a", "b"):
+        other.Material(name=name, description=name)
+    steps = doc.undo_count
+    doc.materials.update(other.materials)
+    assert list(doc.materials) == ["a", "b", "steel"] and doc.undo_count == steps + 1
+    with pytest.raises(TypeError):
+        doc.materials.update({"c": other.materials["a"], "d": nga.Density()})
+    assert list(doc.materials) == ["a", "b", "steel"]
+    doc.materials.clear()
+    assert len(doc.materials) == 0 and doc.undo_count == steps + 2
+    doc.undo()
+    mullins = steel.MullinsEffect(validate=False)
+    mullins.uniaxialTests = [nga.UniaxialTestData()] * 3
+    case = doc.LoadCase(name="service", loads={"wind": 1.0})
+    steps = doc.undo_count
+    mullins.uniaxialTests.clear()
+    case.loads.update({"snow": 2.0}, ice=3.0)
+    case.loads.clear()
+    assert doc.undo_count == steps + 3
+    doc.undo()
+    assert dict(case.loads) == {"ice": 3.0, "snow": 2.0, "wind": 1.0}

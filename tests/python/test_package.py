@@ -4,7 +4,6 @@ import pathlib
 import pydoc
 import subprocess
 import sys
-import venv
 import xml.dom.minidom
 
 import pytest
@@ -13,7 +12,6 @@ import nga
 from conftest import ROOT, all_objects, concrete_classes
 
 PACKAGE = pathlib.Path(nga.__file__).parent
-TOOL = os.environ.get("NGA_TOOL")
 
 
 def has(module):
@@ -55,31 +53,6 @@ nga.Elastic(tabel=())
     lines = {int(line.split(":")[1]) for line in done.stdout.splitlines()
              if line.startswith("script.py") and ": error:" in line}
     assert lines == {8, 9, 10, 11, 12}, done.stdout + done.stderr
-
-
-@pytest.mark.skipif(not TOOL, reason="the tool is not there")
-def test_the_package_is_installed_without_a_network(tmp_path):
-    """Packs what the build has; the backend's own build is the same command with an empty folder."""
-    build = PACKAGE.parent.parent
-    if not (build / "CMakeCache.txt").exists():
-        pytest.skip("the module does not stand in a build")
-    sys.path.insert(0, str(ROOT / "cmake" / "python"))
-    try:
-        import nga_build
-    finally:
-        sys.path.pop(0)
-    wheel = tmp_path / nga_build.pack(PACKAGE, str(tmp_path))
-    venv.create(tmp_path / "env", with_pip=True, system_site_packages=True)
-    python = tmp_path / "env" / "bin" / "python"
-    subprocess.run([python, "-m", "pip", "install", "--no-index", "--no-deps", "-q", wheel],
-                   check=True)
-    done = subprocess.run(
-        [python, "-c", "import nga; print(nga.__file__); "
-                       "nga.new('a').Material(name='s').Elastic(table=((1.0, 2.0),)).table"],
-        capture_output=True, text=True, cwd=tmp_path,
-        env={name: value for name, value in os.environ.items() if name != "PYTHONPATH"})
-    assert done.returncode == 0, done.stderr
-    assert done.stdout.startswith(str(tmp_path / "env"))
 
 
 def test_help_says_fields_types_literals_defaults_and_rules():

@@ -147,3 +147,23 @@ def test_the_journal_of_every_class_gives_an_equal_document(cls):
     document.journal.replay(again)
     assert again.to_dict() == document.to_dict()
     assert not document.diff(again)
+
+
+@pytest.mark.parametrize("cls", CLASSES, ids=name_of)
+def test_the_journal_of_every_class_changes_what_is_there_already(cls):
+    found = placed(cls)
+    if found is None:
+        pytest.skip("no document can hold one")
+    document, item = found
+    for field in fields_of(cls):
+        setattr(item, field["script"], changed_value(field, item))
+    usual = cls(validate=False)
+    for change in (lambda field: changed_value(field, item),
+                   lambda field: getattr(usual, field["script"])):
+        start = nga.from_dict("start", document.to_dict())
+        document.forget_history()
+        for field in fields_of(cls):
+            setattr(item, field["script"], change(field))
+        document.journal.replay(start)
+        assert start.to_dict() == document.to_dict(), document.journal.body
+        assert not start.diff(document)

@@ -10,7 +10,9 @@ cases and what else the library registers.
 
 Classes (nga.Elastic) and literals (nga.ISOTROPIC) are made from the library's own metadata.
 """
-from . import _made
+from typing import TYPE_CHECKING
+
+from . import _made, _nga
 from ._literal import Literal
 from ._made import *
 from ._model import (MISSING, Difference, Finding, FloatMap, Journal, Object, ObjectList, Options,
@@ -24,3 +26,8 @@ __all__ = ["MISSING", "Difference", "Error", "Finding", "FloatMap", "Journal", "
            "ObjectList", "Options", "Repository", "Snapshot", "StoreError", "ValidationError",
            "documents", "empty_table", "from_dict", "new", "real"]
 __all__ += _made.__all__
+
+if not TYPE_CHECKING:
+    def __getattr__(name):
+        near = "" if name.startswith("_") else _nga.near(name, [*__all__, "open"])
+        raise AttributeError(f"module 'nga' has no attribute {name!r}{near}")

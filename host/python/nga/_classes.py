@@ -2,6 +2,7 @@
 from . import _nga
 from ._literal import Literal
 from ._model import FloatMap, Object, ObjectList, Repository
+from ._signature import ConstructorSignature, ValuesSignature
 
 #: Every class's facts, as the library tells them, by TypeId.
 facts_of: dict[int, dict] = {}
@@ -15,7 +16,7 @@ def make(namespace, base):
     facts = _nga.classes()
     for one in facts:
         facts_of[one["type_id"]] = one
-    _nga.set_views(ObjectList, FloatMap)
+    _nga.set_views(ObjectList, FloatMap, _describe)
     for one in facts:
         _make_class(one, namespace)
     for one in facts:
@@ -25,6 +26,11 @@ def make(namespace, base):
     for index, (name, held, classes) in enumerate(_nga.collections()):
         _add_collection(document, index, name, held, classes)
     return document
+
+
+def _describe(cls, field):
+    from ._help import field_help
+    return field_help(cls, field)
 
 
 def _make_class(facts, namespace):
@@ -54,7 +60,19 @@ def _make_class(facts, namespace):
     # What scripts know by its owner's field alone has no constructor of its own.
     if not facts["is_table"]:
         namespace[name] = made
+        made.setValues = _set_values(made)
     return made
+
+
+def _set_values(made):
+    def setValues(self, *, validate=True, **fields):
+        _nga.set_values(self, fields, validate)
+
+    setValues.__qualname__ = f"{made.__name__}.setValues"
+    setValues.__module__ = "nga"
+    setValues.__doc__ = Object.setValues.__doc__
+    setValues.__wrapped__ = ValuesSignature(made)
+    return setValues
 
 
 def all_fields(cls):
@@ -88,6 +106,7 @@ def _constructor(owner, script, name, made):
     construct.__module__ = "nga"
     construct.__doc__ = (f"Makes the {made.__name__} in .{script} from these fields, and checks it "
                          f"unless validate is false. See help(nga.{made.__name__}).")
+    construct.__wrapped__ = ConstructorSignature(made, "self")
     return construct
 
 
@@ -114,4 +133,5 @@ def _add_document_constructor(document, index, made):
     construct.__module__ = "nga"
     construct.__doc__ = (f"Makes a {name} of that name from these fields, and checks it unless "
                          f"validate is false. See help(nga.{name}).")
+    construct.__wrapped__ = ConstructorSignature(made, "self", named=True)
     setattr(document, name, construct)

@@ -22,6 +22,22 @@ def _type_text(field):
     return text + "".join(f", or {word}" for word, _ in field["words"])
 
 
+def _default_text(field):
+    default = field["default"]
+    if default in (None, "None"):
+        return ""
+    return f" (default {default.replace('nga.', '')})"
+
+
+def field_help(cls, name):
+    """What a field is, in one line."""
+    for field in vars(cls)["_facts"]["fields"]:
+        if field["script"] == name:
+            text = _type_text(field)
+            return (f"one of {text}" if field["kind"] == "literal" else text) + _default_text(field)
+    return None
+
+
 def class_help(cls):
     from ._classes import all_fields
     facts = cls._facts
@@ -31,11 +47,8 @@ def class_help(cls):
         lines += ["", "Fields:"]
         width = max(len(field["script"]) for field in fields)
         for field in fields:
-            default = field["default"]
-            if default is not None:
-                default = default.replace("nga.", "")
             lines.append(f"    {field['script']:{width}}  {_type_text(field)}"
-                         + (f" (default {default})" if default not in (None, "None") else ""))
+                         + _default_text(field))
     rules = _nga.rules(facts["type_id"])
     if rules:
         lines += ["", "Rules that it may break:"]

@@ -33,7 +33,7 @@ def _value_html(item, field):
     if field["kind"] in ("options", "list"):
         return "".join(object_html(one, nested=True) for one in value if one is not None)
     if field["kind"] == "map":
-        return "".join(f"{_text(name)}: {_text(number)}<br/>" for name, number in value.items())
+        return map_html(value)
     return _code(repr(value) if field["kind"] != "str" else value)
 
 
@@ -52,6 +52,43 @@ def object_html(item, nested=False):
     if nested:
         return f"<details open='open'><summary>{title}</summary>{body}</details>"
     return f"<p>{title}</p>{body}{_picture(item)}"
+
+
+def _more(count, what):
+    return f"<p>… {count} more {what}</p>" if count > 0 else ""
+
+
+def options_html(options):
+    """Every option that is set, with what it holds."""
+    path = options._owner.path
+    title = f"<p>options of {_code(path) if path else _text(type(options._owner).__name__)}</p>"
+    if not options._owner.alive:
+        return title + "<p>(gone)</p>"
+    names = list(options)
+    if not names:
+        return title + "<p>none is set</p>"
+    return title + "".join(f"<p>{_code(name)}</p>{object_html(options[name], nested=True)}"
+                           for name in names)
+
+
+def list_html(elements):
+    """The elements with their places."""
+    path = elements._owner.path
+    title = f"{path}.{elements._field}" if path else \
+        f"{type(elements._owner).__name__}.{elements._field}"
+    if not elements._owner.alive:
+        return f"<p>{_code(title)} (gone)</p>"
+    shown = "".join(
+        f"<p>{_code(f'[{place}]')}</p>"
+        + ("<p>nothing</p>" if element is None else object_html(element, nested=True))
+        for place, element in enumerate(elements[:_MOST_ROWS]))
+    return f"<p>{_code(title)}</p>{shown or '<p>no elements</p>'}" \
+        + _more(len(elements) - _MOST_ROWS, "elements")
+
+
+def map_html(entries):
+    """Names and numbers."""
+    return "".join(f"{_text(name)}: {_text(number)}<br/>" for name, number in entries.items())
 
 
 def _picture(item):

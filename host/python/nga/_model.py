@@ -4,7 +4,6 @@ import collections.abc
 import json
 import math
 import os
-import pprint
 import struct
 import weakref
 from collections.abc import Mapping
@@ -90,9 +89,9 @@ class _Documents(collections.abc.Mapping[str, "Document"]):
 documents = _Documents()
 
 
-def _document(session: Any, opened: str | None = None) -> "Document":
+def _document(session: Any) -> "Document":
     from ._made import Document
-    return Document(session, opened)
+    return Document(session)
 
 
 def new(name: str) -> "Document":
@@ -105,7 +104,22 @@ def _path(path: str | os.PathLike[str]) -> str:
     if not isinstance(text, str):
         raise TypeError(f"a path is expected as text, not as {type(text).__name__}; "
                         "os.fsdecode() makes one")
+    try:
+        os.fsencode(text)
+    except UnicodeEncodeError:
+        cause = "the name has half of a character in it (a lone surrogate), as no file has"
+        failure = _nga.StoreError(f"{text!a}: {cause}")
+        failure.path, failure.cause = text, cause
+        raise failure from None
     return text
+
+
+def _tolerance(name, value):
+    if isinstance(value, (str, bytes)) or not hasattr(value, "__float__") and \
+            not hasattr(value, "__index__"):
+        raise TypeError(f"{name}: {value!r} ({type(value).__name__}) cannot stand here; "
+                        "expected a number")
+    return float(value)
 
 
 def _read(path):
@@ -134,8 +148,9 @@ def open(path: str | os.PathLike[str], name: str | None = None) -> "Document":
         if name is not None:
             session.name = name
     # How the journal's script comes to the start.
-    session.opening = f"nga.open({file!r})" if name is None else f"nga.open({file!r}, {name!r})"
-    return _document(session, os.path.abspath(file))
+    session.set_opened(f"nga.open({file!r})" if name is None else f"nga.open({file!r}, {name!r})",
+                       os.path.abspath(file))
+    return _document(session)
 
 
 def _plain(value):
@@ -210,7 +225,7 @@ class _Edit:
     def __enter__(self):
         if self._number is not None and self._session.has_edit(self._number):
             _nga.refuse("this edit is open already; another one begins with edit()")
-        self._number = self._session.open_edit(self._why)
+        self._session.open_edit(self, self._why)
         return self
 
     def __exit__(self, kind, value, trace):
@@ -234,19 +249,16 @@ class DocumentBase:
 
     # Nothing else can be kept in a document: a mistyped name is refused, and no handle of its own
     # keeps it alive.
-    __slots__ = ("_session", "_opened", "__weakref__")
+    __slots__ = ("_session", "__weakref__")
     _session: Any
-    _opened: str | None
     _collections: dict[str, int] = {}
 
-    def __init__(self, session, opened=None):
+    def __init__(self, session):
         if not isinstance(session, _nga.Session):
             raise TypeError("nga.new() and nga.open() make documents, not the class")
         if hasattr(self, "_session"):
             raise TypeError("this document is made already")
         object.__setattr__(self, "_session", session)
-        # The file that the journal's script opens, if it opens one.
-        object.__setattr__(self, "_opened", opened)
         documents._add(self)
 
     @property
@@ -270,18 +282,10 @@ class DocumentBase:
     def save(self) -> None:
         """Writes the file, whole or not at all."""
         self._session.save()
-        self._written()
 
     def save_as(self, path: str | os.PathLike[str]) -> None:
         """Writes another file, which becomes that of the document and names it."""
         self._session.save_as(_path(path))
-        self._written()
-
-    def _written(self):
-        # What the script would open is not what it was any more.
-        if self._opened is not None and os.path.exists(self._opened) and \
-                os.path.samefile(self._opened, self.file):
-            self._session.opening = ""
 
     # ---- time ----
     def edit(self, why: str = "") -> _Edit:
@@ -304,6 +308,12 @@ class DocumentBase:
     def redo_count(self) -> int:
         return self._session.counts()[1]
 
+    def forget_history(self) -> None:
+        """Lets go of all steps, so that none can be undone or done again, and of the records of the
+        journal, which begins anew here. Each step keeps what it replaced while it is there;
+        sessions that make millions of steps call this from time to time."""
+        self._session.forget()
+
     def snapshot(self) -> _nga.Snapshot:
         """The content as it is now, for diff(). It shares with the document and costs nothing."""
         return self._session.snapshot()
@@ -317,7 +327,8 @@ class DocumentBase:
         if not isinstance(before, _nga.Snapshot):
             raise TypeError("a document differs from a snapshot or another document, not from a "
                             f"{type(before).__name__}")
-        found = _nga.diff(before, self.snapshot(), self.path, relative, absolute, MISSING)
+        found = _nga.diff(before, self.snapshot(), self.path, _tolerance("relative", relative),
+                          _tolerance("absolute", absolute), MISSING)
         return [Difference(*one) for one in found]
 
     @property
@@ -410,6 +421,7 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
         return session.script(session.opening or self._start())
 
     def _start(self):
+        import pprint
         session = self._document._session
         text = session.start_text()
         content = json.loads(text)
@@ -439,10 +451,33 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
         return self.script + "".join(f"# {record!r}\n" for record in self.records)
 
     def __repr__(self):
+        if not self._document._session.is_here:
+            return "<journal of another thread>"
         return f"<journal of {self._document.path}: {len(self)} change records>"
 
 
-class Repository(collections.abc.MutableMapping[str, _Held]):
+class _Objects:
+    """Of mappings whose values are handles: what is taken out of one stands nowhere any more, so it
+    is given as an object of no document."""
+
+    __slots__ = ()
+
+    def pop(self, name, *default):
+        """Takes an object away and gives it, as one of no document."""
+        if default and name not in self:
+            return default[0]
+        taken = _nga.copy(self[name])
+        del self[name]
+        return taken
+
+    def popitem(self):
+        """The same with the first name, and gives the name too."""
+        for name in self:
+            return name, self.pop(name)
+        raise KeyError("there is nothing to take away")
+
+
+class Repository(_Objects, collections.abc.MutableMapping[str, _Held]):
     """The objects of one collection by name, in natural order: steel-9 before steel-10."""
 
     __slots__ = ("_document", "_index", "_name")
@@ -482,6 +517,17 @@ class Repository(collections.abc.MutableMapping[str, _Held]):
         """Gives an object another name. Handles go by path: those of the old name end."""
         self._document._session.rename_entry(self._index, old, new)
 
+    def update(self, *others, **more):
+        """Puts copies under several names, as one step."""
+        with self._document.edit():
+            super().update(*others, **more)
+
+    def clear(self):
+        """Takes all objects away, as one step."""
+        with self._document.edit():
+            for name in self:
+                del self[name]
+
     def __eq__(self, other):
         if not isinstance(other, Repository):
             return NotImplemented
@@ -489,6 +535,8 @@ class Repository(collections.abc.MutableMapping[str, _Held]):
             (list(self) == list(other) and all(self[name] == other[name] for name in self))
 
     def __repr__(self):
+        if not self._document._session.is_here:
+            return f"<{self._name} of another thread>"
         return f"<{self.path}: {len(self)} object{'' if len(self) == 1 else 's'}>"
 
     def _repr_html_(self):
@@ -507,6 +555,13 @@ class _Class(type):
             from ._help import class_help
             return class_help(cls)
         return vars(cls).get("_help")
+
+    @property
+    def __signature__(cls):
+        if "_facts" not in vars(cls) or vars(cls)["_facts"]["abstract"]:
+            raise AttributeError("__signature__")
+        from ._signature import constructor_signature
+        return constructor_signature(cls)
 
 
 class Object(_nga.Object, metaclass=_Class):
@@ -541,8 +596,20 @@ ReferenceError when the path leads nowhere any more."""
 
     @property
     def options(self) -> "Options":
-        """The optional objects that are set, by name."""
+        """The optional objects that are set, by name. Assigning a mapping sets those and takes all
+        others away."""
         return Options(self)
+
+    @options.setter
+    def options(self, options: Mapping[str, Any]) -> None:
+        if not isinstance(options, Mapping):
+            raise TypeError(f"{type(self).__name__}.options: {options!r} "
+                            f"({type(options).__name__}) cannot stand here; expected a mapping of "
+                            "names and objects")
+        given = Options(self)
+        for name in options:
+            given._require(name)
+        _nga.set_values(self, {name: options.get(name) for name in self._keyed}, False)
 
     def sort(self, n: int, field: str | None = None) -> None:
         """Orders the rows of the table by its last n columns, the last one first. The table's field
@@ -571,9 +638,12 @@ ReferenceError when the path leads nowhere any more."""
             return NotImplemented
         return _nga.same(self, other)
 
+    # Equality goes by content, which changes, so none is a key; a path is.
     __hash__ = None  # type: ignore[assignment]
 
     def __repr__(self):
+        if not _nga.is_here(self):
+            return f"<{type(self).__name__} of another thread>"
         if self.path is not None:
             return f"<{type(self).__name__} {self.path}{'' if self.alive else ' (gone)'}>"
         text = _nga.expression(self)
@@ -598,23 +668,33 @@ def _restore(type_id, text):
     return _nga.from_json(type_id, text)
 
 
-class Options(collections.abc.Mapping[str, Any]):
-    """The optional objects of one object that are set, by name."""
+class Options(_Objects, collections.abc.MutableMapping[str, Any]):
+    """The optional objects of one object that are set, by name. Assigning None to one takes it
+    away, as with its attribute."""
 
     __slots__ = ("_owner",)
 
     def __init__(self, owner):
         self._owner = owner
 
+    def _fail(self, name, why):
+        raise KeyError(f"{self._owner.path or type(self._owner).__name__}: the option {name!r} "
+                       f"{why}")
+
+    def _require(self, name):
+        if name not in self._owner._keyed:
+            self._fail(name, "is none" + _nga.near(str(name), list(self._owner._keyed)))
+
     def __getitem__(self, name):
-        keyed = self._owner._keyed
-        found = getattr(self._owner, name) if name in keyed else None
+        self._require(name)
+        found = getattr(self._owner, name)
         if found is None:
-            why = "is not set" if name in keyed else \
-                "is none" + _nga.near(str(name), list(keyed))
-            raise KeyError(f"{self._owner.path or type(self._owner).__name__}: the option "
-                           f"{name!r} {why}")
+            self._fail(name, "is not set")
         return found
+
+    def __setitem__(self, name, value):
+        self._require(name)
+        setattr(self._owner, name, value)
 
     def __delitem__(self, name):
         self[name]
@@ -626,13 +706,30 @@ class Options(collections.abc.Mapping[str, Any]):
     def __len__(self):
         return sum(1 for _ in self)
 
+    def update(self, *others, **more):
+        """Sets several options as one step, or none."""
+        given = dict(*others, **more)
+        for name in given:
+            self._require(name)
+        _nga.set_values(self._owner, given, False)
+
+    def clear(self) -> None:
+        """Takes all options away, as one step."""
+        _nga.set_values(self._owner, dict.fromkeys(self._owner._keyed), False)
+
     def __repr__(self):
+        if not _nga.is_here(self._owner):
+            return "<options of another thread>"
         return f"<options {list(self)}>"
+
+    def _repr_html_(self):
+        from ._html import options_html
+        return options_html(self)
 
 
 class ObjectList(collections.abc.MutableSequence[Any]):
-    """A list of objects in an object. Elements are reached by their places: what stands at [0] after
-    an insertion is what was inserted."""
+    """A list of objects in an object. Elements are reached by their places: what stands at [0]
+    after an insertion is what was inserted. To let two change places, copy one of them first."""
 
     __slots__ = ("_owner", "_field")
 
@@ -682,7 +779,25 @@ class ObjectList(collections.abc.MutableSequence[Any]):
         self._assign(elements)
 
     def append(self, value):
-        _nga.append(self._owner, self._field, value)
+        if value is None:
+            self.insert(len(self), None)
+        else:
+            _nga.append(self._owner, self._field, value)
+
+    def pop(self, index=-1):
+        """Takes an element away and gives it, as an object of no document."""
+        elements = self._elements()
+        taken = elements.pop(self._place(index))
+        self._assign(elements)
+        return taken
+
+    def reverse(self):
+        """Turns the order around, as one step."""
+        self._assign(self._elements()[::-1])
+
+    def clear(self):
+        """Takes all elements away, as one step."""
+        self._assign([])
 
     def extend(self, values):
         self._assign(self._elements() + list(values))
@@ -693,20 +808,33 @@ class ObjectList(collections.abc.MutableSequence[Any]):
         return len(self) == len(other) and all(a == b for a, b in zip(self, other))
 
     def __repr__(self):
+        if not _nga.is_here(self._owner):
+            return "<list of another thread>"
         return f"[{', '.join(map(repr, self))}]"
+
+    def _repr_html_(self):
+        from ._html import list_html
+        return list_html(self)
 
 
 class FloatMap(collections.abc.MutableMapping[str, float]):
     """A map from names to single-precision numbers in an object."""
 
-    __slots__ = ("_owner", "_field")
+    __slots__ = ("_owner", "_field", "_stamp", "_read")
 
     def __init__(self, owner, field):
         self._owner = owner
         self._field = field
+        self._stamp = None
 
     def _values(self):
-        return _nga.value(self._owner, self._field)
+        # What was read stays right until the document is written to, so that walking through all
+        # names and asking for each reads them once.
+        stamp = _nga.stamp(self._owner)
+        if stamp != self._stamp:
+            self._read = _nga.value(self._owner, self._field)
+            self._stamp = stamp
+        return self._read
 
     def __getitem__(self, name):
         values = self._values()
@@ -715,12 +843,20 @@ class FloatMap(collections.abc.MutableMapping[str, float]):
         return values[name]
 
     def __setitem__(self, name, value):
-        setattr(self._owner, self._field, self._values() | {name: value})
+        _nga.put_numbers(self._owner, self._field, {name: value})
 
     def __delitem__(self, name):
-        values = self._values()
-        del values[name]
-        setattr(self._owner, self._field, values)
+        if not _nga.remove_number(self._owner, self._field, name):
+            # Says so, with near names.
+            self[name]
+
+    def update(self, *others, **more):
+        """Sets several entries as one step."""
+        _nga.put_numbers(self._owner, self._field, dict(*others, **more))
+
+    def clear(self):
+        """Takes all entries away, as one step."""
+        setattr(self._owner, self._field, {})
 
     def __iter__(self):
         return iter(self._values())
@@ -729,7 +865,13 @@ class FloatMap(collections.abc.MutableMapping[str, float]):
         return len(self._values())
 
     def __repr__(self):
+        if not _nga.is_here(self._owner):
+            return "<map of another thread>"
         return repr(self._values())
+
+    def _repr_html_(self):
+        from ._html import map_html
+        return map_html(self)
 
 
 # ---- values --------------------------------------------------------------------------------------

@@ -7,6 +7,7 @@
 
 #include "../cli/tool_runner.h"
 #include "mem_Memory.h"
+#include "nga_Diff.h"
 #include "nga_Json.h"
 
 // Every allocation there is, be it the library's, the standard library's or SQLite's, is made to
@@ -131,6 +132,48 @@ nga::Document Small() {
     nga::Document document = nga::Document::New("document");
     nga::ImportJson(document, text);
     return document;
+}
+
+/// How many allocations the work makes.
+template <class Work>
+int CountedIn(Work const& work) {
+    Failing const none(-1);
+    work();
+    armed = false;
+    return allocations;
+}
+
+/// Many names, which all share one object: what a snapshot copies is not what objects weigh.
+nga::Document Large(int size) {
+    nga::Document document = Small();
+    nga::Collection const& materials = *nga::Collection::FindByName("materials");
+    auto const held = materials.Hold(document.Model(), "a");
+    for (int i = 0; i < size; ++i) materials.Restore(document.Model(), cow_String(i), held);
+    return document;
+}
+
+TEST(Snapshot, AllocatesAsMuchOfALargeDocumentAsOfASmallOne) {
+    nga::Document const small = Small(), large = Large(100'000);
+    int const ofSmall = CountedIn([&] { nga::Snapshot const kept(small.Model()); });
+    int const ofLarge = CountedIn([&] { nga::Snapshot const kept(large.Model()); });
+    EXPECT_GT(ofSmall, 0);
+    EXPECT_EQ(ofLarge, ofSmall);
+}
+
+TEST(Snapshot, ADifferenceAfterOneWriteAllocatesAsMuchWhateverTheSize) {
+    auto const difference = [](nga::Document& document) {
+        nga::Snapshot const before(document.Model());
+        document.Materials().Get("b").description = "another text";
+        nga::Snapshot const after(document.Model());
+        int found = 0;
+        int const count = CountedIn(
+            [&] { nga::Diff(before, after, "", {}, [&](nga::Difference const&) { ++found; }); });
+        EXPECT_EQ(found, 1);
+        return count;
+    };
+    nga::Document small = Small(), large = Large(100'000);
+    // The walk's own stack may grow once or twice more on a longer path.
+    EXPECT_LE(difference(large), difference(small) + 4);
 }
 
 std::vector<std::string> EntriesOf(std::string const& folder) {

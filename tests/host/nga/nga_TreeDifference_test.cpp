@@ -81,4 +81,25 @@ TEST(TreeDifference, RandomChangesAreFoundAndNothingElse) {
     }
 }
 
+/// How many looks at nodes a difference of two trees takes that one write makes different.
+std::size_t LooksAfterOneWrite(int size, int key) {
+    Tree const before = TreeOf(size);
+    Tree after = before;
+    Put(after, key, -5);
+    nga::TreeDifference<int, Value> difference(before, after);
+    int found = 0;
+    difference.Run([&](int, Value const*, Value const*) { ++found; });
+    EXPECT_EQ(found, 1);
+    return difference.Looks();
+}
+
+TEST(TreeDifference, OneWriteCostsPathsAndNotTheTree) {
+    for (int const place : {0, 1, 50, 77, 99}) {
+        std::size_t const small = LooksAfterOneWrite(100, place);
+        std::size_t const large = LooksAfterOneWrite(100'000, place * 1000);
+        EXPECT_LE(large, 3 * small) << place;
+        EXPECT_LE(large, 200u) << place;
+    }
+}
+
 }  // namespace
