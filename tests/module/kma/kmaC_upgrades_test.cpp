@@ -224,8 +224,10 @@ TEST_F(MaterialUpgrades, AnnealTemperatureLosesRegainsAndLosesItsDependency) {
     EXPECT_EQ(after.At(annealTemperature, 0, "dependencies"), "4");
     EXPECT_EQ(after.Report().classes.at(annealTemperature).versions,
               (std::vector<int>{203, 307, 452, 813}));
-    EXPECT_EQ(after.Report().classes.at(annealTemperature).dropped.at("temperatureDependency"), 2);
-    EXPECT_EQ(after.Report().classes.at(annealTemperature).filled.at("temperatureDependency"), 1);
+    // What the step between filled, nobody had.
+    EXPECT_EQ(after.Report().classes.at(annealTemperature).dropped.at("temperatureDependency"), 1);
+    EXPECT_EQ(after.Report().classes.at(annealTemperature).filled.count("temperatureDependency"),
+              0u);
 }
 
 TEST_F(MaterialUpgrades, TestDataGetSmoothingAndTheirDependencies) {
@@ -258,8 +260,8 @@ TEST_F(MaterialUpgrades, VolumetricTestDataLoseTheirLateralStrainAgain) {
     EXPECT_FALSE(after.HasColumn(volumetricTestData, "lateralNominalStrain"));
     dbc_ClassReport const& report = after.Report().classes.at(volumetricTestData);
     EXPECT_EQ(report.versions, (std::vector<int>{203, 324, 325}));
-    EXPECT_EQ(report.filled.at("lateralNominalStrain"), 1);
-    EXPECT_EQ(report.dropped.at("lateralNominalStrain"), 1);
+    EXPECT_EQ(report.filled.count("lateralNominalStrain"), 0u);
+    EXPECT_EQ(report.dropped.count("lateralNominalStrain"), 0u);
 }
 
 TEST_F(MaterialUpgrades, EmptyStepsLeaveNewOptionsUnset) {
