@@ -94,7 +94,13 @@ TEST_P(HandWrittenUpgrades, BecomeWhatTheySay) {
     std::vector<Question> const questions = QuestionsOf(Contents(GetParam()));
     ASSERT_FALSE(questions.empty()) << "the file asks nothing";
     std::string const path = Made(GetParam());
+    std::string const again = folder.File("again/" + NameOf(GetParam()) + ".nga");
+    std::filesystem::create_directory(folder.File("again"));
+    nga::UpgradeFileOptions elsewhere;
+    elsewhere.output = again;
+    nga::Upgrade(path, elsewhere);
     nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+    EXPECT_TRUE(Contents(path) == Contents(again)) << "a second upgrade gives another file";
     for (nga::Finding const& each : outcome.unreadable)
         ADD_FAILURE() << each.path << " cannot be read: " << each.message;
     // None of the files has a reference that leads nowhere.
