@@ -64,6 +64,7 @@ void dbc_WorkTable::StartStep() {
 
 void dbc_WorkTable::EndStep() {
     FlushPending();
+    m_formerPlaces.clear();
     if (m_successor) {
         m_places.reset();
         m_placesOf = nullptr;
@@ -97,6 +98,8 @@ int dbc_WorkTable::OutputRows() {
 
 dbc_Places& dbc_WorkTable::OutputPlaces() {
     if (!m_places || m_placesOf != Storage()) {
+        // Rows that stand on the table go on with what they began with.
+        if (m_places) m_formerPlaces.push_back(std::move(m_places));
         m_places = std::make_unique<dbc_Places>(Storage()->Metadata(),
                                                 m_stepping ? &m_frozen->Metadata() : nullptr);
         m_placesOf = Storage();

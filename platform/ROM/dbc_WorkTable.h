@@ -118,6 +118,7 @@ private:
     int m_streamed = 0;
     dbc_RowRfm* m_pending = nullptr;
     std::unique_ptr<dbc_Places> m_places;
+    std::vector<std::unique_ptr<dbc_Places>> m_formerPlaces;
     rfm_Table const* m_placesOf = nullptr;
     /// The fields whose values came with the file, and not from a step.
     std::set<std::string> m_ownFields;

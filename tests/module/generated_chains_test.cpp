@@ -47,6 +47,6 @@ TEST_P(GeneratedChains, InTwoPartsComeToWhatTheyComeToInOne) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(From, GeneratedChains, testing::Values(203, 453, 507, 811, 836, 869));
+INSTANTIATE_TEST_SUITE_P(From, GeneratedChains, testing::Values(203, 324, 419, 453, 507, 811, 836, 869, 883, 1022));
 
 }  // namespace
