@@ -25,7 +25,11 @@ void History::Require(std::size_t edit) const {
 
 void History::Close(std::size_t edit) {
     Require(edit);
-    while (m_open.back().number != edit) RollBackInnermost();
+    // Taken back now, it would go on without whoever writes in it knowing.
+    if (m_open.back().number != edit)
+        throw Error("an edit that was begun within this one" +
+                    (m_open.back().why.empty() ? "" : ", '" + m_open.back().why + "',") +
+                    " is still open; end that one first");
     Step step = std::move(m_open.back());
     m_open.pop_back();
     if (step.kept.empty()) return;

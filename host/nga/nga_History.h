@@ -55,9 +55,8 @@ public:
 
     /// A group of writes that is one step, or nothing if it is not closed. Edits nest: an inner one
     /// is a part of the outer step, but can be rolled back alone. The number knows the edit:
-    /// whoever ends one ends that one, whatever was opened meanwhile and not ended. Inner ones that
-    /// are still open were never closed, so they are rolled back with it. An Error for an edit that
-    /// is not open.
+    /// whoever ends one ends that one. It cannot be closed while an inner one is open, and is rolled
+    /// back together with those. An Error for an edit that is not open.
     std::size_t Open(std::string const& why = std::string());
     void Close(std::size_t edit);
     void RollBack(std::size_t edit);

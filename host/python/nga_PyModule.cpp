@@ -547,12 +547,13 @@ void DefineSession(py::module_& module) {
                                })
         .def_property_readonly("is_here", [](Session& s) { return s.IsHere(); })
         .def_property(
-            "opening", [](Session& s) { return Text(s.opening); },
+            "opening", [](Session& s) { return Text(s.Opening()); },
             [](Session& s, py::handle opening) { s.opening = From(opening); })
         .def("set_opened",
              [](Session& s, py::handle opening, py::handle file) {
                  s.opening = From(opening);
                  s.opened = From(file);
+                 s.openedStamp = FileStamp::Of(s.opened);
              })
         .def("enter", [](Session& s) { s.Enter(); })
         .def("save",
@@ -579,8 +580,9 @@ void DefineSession(py::module_& module) {
              [](Session& s) {
                  s.Enter();
                  // A script begins here from now on, and nothing else may have what is here.
-                 if (s.history.UndoCount() > 0) s.opening.clear();
+                 bool const begins = s.history.UndoCount() > 0;
                  s.history.Forget();
+                 if (begins) s.opening.clear();
                  s.records.clear();
              })
         .def("counts",

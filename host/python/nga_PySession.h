@@ -44,8 +44,13 @@ public:
     /// How a script comes to the document as it was before the first step; empty where there is no
     /// way but the content itself, which StartText() gives.
     std::string opening;
-    /// The file that this opens, if it opens one.
+    /// The file that this opens, if it opens one, and the state that it was in.
     std::string opened;
+    FileStamp openedStamp;
+    /// The same, empty also where somebody changed the file since.
+    std::string Opening() const {
+        return opened.empty() || FileStamp::Of(opened) == openedStamp ? opening : std::string();
+    }
     /// To be called when the document was saved: that file may not be what it was any more.
     void NoteSaved();
     /// The text of the content as it was before the first step.

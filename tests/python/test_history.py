@@ -1,3 +1,4 @@
+import asyncio
 import os
 import random
 import threading
@@ -116,17 +117,21 @@ def test_an_edit_that_another_thread_drops_is_taken_back_here(doc):
     assert steel.description == "" and doc.undo()
 
 
-def test_an_edit_that_ends_takes_back_what_is_open_in_it(doc):
+def test_an_edit_does_not_end_while_one_within_it_is_open(doc):
     steel = doc.Material(name="steel")
     outer, inner = doc.edit("outer"), doc.edit("inner")
     outer.__enter__()
     steel.description = "a"
     inner.__enter__()
     steel.description = "b"
+    with pytest.raises(nga.Error, match="'inner', is still open"):
+        outer.__exit__(None, None, None)
+    steel.description = "c"
+    inner.__exit__(ValueError, ValueError(), None)
+    assert steel.description == "a"
     outer.__exit__(None, None, None)
     assert steel.description == "a" and doc.undo_count == 2
-    with pytest.raises(nga.Error, match="not open"):
-        inner.__exit__(None, None, None)
+    # A failure takes back all that was done since.
     outer, inner = doc.edit("outer"), doc.edit("inner")
     outer.__enter__()
     inner.__enter__()
@@ -134,6 +139,31 @@ def test_an_edit_that_ends_takes_back_what_is_open_in_it(doc):
     outer.__exit__(ValueError, ValueError(), None)
     assert steel.description == "a"
     assert doc.undo() and steel.description == ""
+
+
+def test_tasks_whose_edits_overlap_are_told(doc):
+    async def write(name, first, last):
+        with doc.edit(name):
+            await asyncio.sleep(first)
+            doc.Material(name=name)
+            await asyncio.sleep(last)
+
+    async def both():
+        return await asyncio.gather(
+            write("a", 0, 0.02), write("b", 0.01, 0.05), return_exceptions=True
+        )
+
+    results = asyncio.run(both())
+    assert any(isinstance(each, nga.Error) for each in results)
+
+
+def test_a_refused_forgetting_changes_nothing(doc):
+    doc.Material(name="m")
+    script = doc.journal.script
+    with doc.edit("why"):
+        with pytest.raises(nga.Error):
+            doc.forget_history()
+    assert doc.journal.script == script
 
 
 def test_a_history_is_forgotten(doc, tmp_path):

@@ -219,3 +219,30 @@ def test_names_that_change_places_come_out_right(doc):
     changed.journal.replay(start)
     assert start.to_json() == changed.to_json()
     assert start.materials["b"].density.table[0, 0] == 1.0
+
+
+def test_a_script_does_not_start_from_a_file_that_somebody_changed(tmp_path):
+    path = str(tmp_path / "w.nga")
+    first = nga.new("first")
+    first.Material(name="m")
+    first.save_as(path)
+    opened = nga.open(path)
+    opened.materials["m"].description = "by the first"
+    assert "nga.open(" in opened.journal.script
+    other = nga.new("other")
+    other.Material(name="m").Elastic(table=((1.0, 0.3),))
+    other.save_as(path)
+    space = {}
+    exec(opened.journal.script, space)
+    assert space["doc"].diff(opened) == []
+
+
+def test_a_script_does_not_start_from_a_text_that_was_written_anew(tmp_path):
+    path = tmp_path / "m.json"
+    path.write_text('{"materials": {"steel": {}}}')
+    doc = nga.open(str(path))
+    doc.Material(name="added")
+    path.write_text(doc.to_json())
+    space = {}
+    exec(doc.journal.script, space)
+    assert space["doc"].diff(doc) == []

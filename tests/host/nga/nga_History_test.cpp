@@ -68,17 +68,28 @@ TEST_F(HistoryTest, AnEditThatIsNotOpenCannotBeEnded) {
     EXPECT_THROW(m_history.Touch(m_materials, "steel"), nga::Error);
 }
 
-TEST_F(HistoryTest, AnEditThatEndsTakesBackWhatIsStillOpenInIt) {
+TEST_F(HistoryTest, AnEditDoesNotEndWhileOneWithinItIsOpen) {
     Insert("steel");
     std::size_t const outer = m_history.Open();
     Describe("steel", "a");
-    std::size_t const inner = m_history.Open();
+    std::size_t const inner = m_history.Open("softer");
     Describe("steel", "b");
-    m_history.Open();
+    std::size_t const innermost = m_history.Open();
     Describe("steel", "c");
-    m_history.Close(outer);
+    EXPECT_THROW(m_history.Close(outer), nga::Error);
+    m_history.RollBack(innermost);
+    try {
+        m_history.Close(outer);
+        ADD_FAILURE();
+    } catch (nga::Error const& failure) {
+        EXPECT_EQ(failure.Message(),
+                  "an edit that was begun within this one, 'softer', is still open; end that one "
+                  "first");
+    }
+    EXPECT_EQ(Description("steel"), "b");
+    m_history.RollBack(inner);
     EXPECT_EQ(Description("steel"), "a");
-    EXPECT_THROW(m_history.Close(inner), nga::Error);
+    m_history.Close(outer);
     EXPECT_EQ(m_history.UndoCount(), 2u);
     EXPECT_TRUE(m_history.Undo());
     EXPECT_EQ(Description("steel"), "");
