@@ -15,9 +15,9 @@ struct ListedRule {
 };
 
 /// The rules of a class, in its order, for people who want to know them beforehand: those that its
-/// rule function comes to on an object as its constructor makes it, and on ones with another
-/// literal, flag or number, so that what is asked of some kinds only is found too. Rules of the
-/// objects in it are theirs.
+/// rule function comes to on an object as its constructor makes it, on one whose tables, lists and
+/// options are filled, and on ones with another number or with one or two other literals or flags,
+/// so that what is asked of some kinds only is found too. Rules of the objects in it are theirs.
 std::vector<ListedRule> RulesOf(mdl_Description const& description);
 
 }  // namespace nga

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <set>
+#include <string>
+
 #include "cls_ClassMetadata.h"
 #include "nga_Document.h"
 #include "nga_Rules.h"
@@ -49,6 +53,57 @@ TEST(Reference, RulesAreListedInTheirOrderAndOnce) {
                     << description->Name();
         }
     }
+}
+
+/// What the tables of the modules' own tests know of rules: lines of a class, settings and steps,
+/// in which "34:" stands before what breaks the rule of that code.
+struct RuleLine {
+    char const* className;
+    char const* steps;
+};
+constexpr RuleLine ruleLines[] = {
+#define RULES(className, settings, steps) {#className, steps},
+#include "module/kbe/kbeC_rules.inc"
+#include "module/kma/kmaC_rules.inc"
+#undef RULES
+    {"kbpC_IbeamProfile", "7:h 18:t3 11:t1 20:t1 19:b2 21:t2"},
+    {"kamC_BaselineCorrection", "19:intervals"},
+};
+
+std::set<int> CodesIn(std::string const& steps) {
+    std::set<int> codes;
+    for (std::size_t colon = 0; (colon = steps.find(':', colon)) != std::string::npos; ++colon) {
+        std::size_t start = colon;
+        while (start > 0 && std::isdigit(static_cast<unsigned char>(steps[start - 1]))) --start;
+        bool const atStart = start == 0 || steps[start - 1] == ' ' || steps[start - 1] == '|';
+        // What an object within breaks is a rule of that one's class.
+        std::size_t const end = steps.find_first_of(" |&=", colon);
+        bool const within = steps.substr(colon, end - colon).find('.') != std::string::npos;
+        if (start < colon && atStart && !within)
+            codes.insert(std::stoi(steps.substr(start, colon - start)));
+    }
+    return codes;
+}
+
+TEST(Reference, EveryRuleThatCanBreakIsListed) {
+    nga::Start();
+    int seen = 0;
+    for (RuleLine const& line : ruleLines) {
+        // All that it asks are its terms.
+        if (std::string(line.className) == "kbeC_DerivedComponent") continue;
+        mdl_Description const* description = nullptr;
+        for (cls_ClassMetadata const* metadata : nga::SchemaClasses())
+            if (metadata->Name().View() == line.className)
+                description = mdl_Description::Find(metadata->TypeId());
+        ASSERT_TRUE(description) << line.className;
+        std::set<int> listed;
+        for (nga::ListedRule const& rule : nga::RulesOf(*description)) listed.insert(rule.code);
+        for (int code : CodesIn(line.steps)) {
+            EXPECT_EQ(listed.count(code), 1u) << line.className << " " << code;
+            ++seen;
+        }
+    }
+    EXPECT_GT(seen, 200);
 }
 
 TEST(Stubs, EveryClassAndLiteralStandsInThem) {
