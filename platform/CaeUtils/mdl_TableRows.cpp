@@ -1,12 +1,42 @@
 #include "mdl_TableRows.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <vector>
+
+namespace {
+
+bool HasNaNInKeys(cow_2DArray<double> const& array, int n) {
+    for (int row = 0; row < array.Rows(); ++row)
+        for (int column = array.Columns() - n; column < array.Columns(); ++column)
+            if (std::isnan(array.Cell(row, column))) return true;
+    return false;
+}
+
+// What the insertion gives where all cells can be compared, without its square of the rows.
+cow_2DArray<double> StablySorted(cow_2DArray<double> const& array, int n) {
+    std::size_t const columns = static_cast<std::size_t>(array.Columns());
+    std::vector<double const*> order;
+    for (int row = 0; row < array.Rows(); ++row)
+        order.push_back(array.Data() + columns * static_cast<std::size_t>(row));
+    std::stable_sort(order.begin(), order.end(), [&](double const* a, double const* b) {
+        for (std::size_t key = columns; key-- > columns - static_cast<std::size_t>(n);)
+            if (a[key] != b[key]) return a[key] < b[key];
+        return false;
+    });
+    cow_2DArray<double> sorted(array.Rows(), array.Columns());
+    double* to = sorted.Get().Data();
+    for (double const* row : order) to = std::copy_n(row, columns, to);
+    return sorted;
+}
+
+}  // namespace
 
 cow_2DArray<double> mdl_SortedRows(cow_2DArray<double> const& array, int n) {
     int const rows = array.Rows();
     int const columns = array.Columns();
+    if (n > 0 && n <= columns && !HasNaNInKeys(array, n)) return StablySorted(array, n);
     cow_2DArray<double> sorted(rows, columns);
     double* const cells = sorted.Get().Data();
     std::copy_n(array.Data(), array.Size(), cells);

@@ -70,6 +70,18 @@ TEST(SortedRows, AreThoseOfAStableSortWhereNothingIsANaN) {
     }
 }
 
+TEST(SortedRows, ManyRowsDoNotTakeTheirSquare) {
+    int const rows = 200000;
+    cow_2DArray<double> array(rows, 2);
+    for (int row = 0; row < rows; ++row) {
+        array.Get().Cell(row, 0) = row;
+        array.Get().Cell(row, 1) = rows - row;
+    }
+    // By insertion this would take minutes, and the runner would end it.
+    cow_2DArray<double> const sorted = mdl_SortedRows(array, 1);
+    for (int row = 0; row < rows; ++row) ASSERT_EQ(sorted.Cell(row, 1), row + 1);
+}
+
 TEST(SortedRows, ANaNStopsTheWalkOfARow) {
     // It stays where it is, and a later row is not compared past it.
     ExpectRows(mdl_SortedRows(ArrayOf({{1, 5}, {2, aNaN}, {3, 1}, {4, 0}}), 1),
