@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <functional>
 #include <vector>
 
 namespace {
@@ -20,10 +21,11 @@ cow_2DArray<double> StablySorted(cow_2DArray<double> const& array, int n) {
     std::vector<double const*> order;
     for (int row = 0; row < array.Rows(); ++row)
         order.push_back(array.Data() + columns * static_cast<std::size_t>(row));
-    std::stable_sort(order.begin(), order.end(), [&](double const* a, double const* b) {
+    std::sort(order.begin(), order.end(), [&](double const* a, double const* b) {
         for (std::size_t key = columns; key-- > columns - static_cast<std::size_t>(n);)
             if (a[key] != b[key]) return a[key] < b[key];
-        return false;
+        // Rows that tie keep their order, which is that of their places.
+        return std::less<double const*>()(a, b);
     });
     cow_2DArray<double> sorted(array.Rows(), array.Columns());
     double* to = sorted.Get().Data();
