@@ -85,19 +85,18 @@ def main():
     for size in (1, 1000):
         document = document_of(nga, size)
         elastic = document.materials["material-0"].elastic
-        values = [nga.LAMINA, nga.TRACTION]
+        # Turned around by each call, since an assignment that changes nothing writes nothing.
+        values = [(nga.LAMINA, 3, True), (nga.TRACTION, 4, False)]
 
         def attribute():
-            elastic.type = values[0]
-            elastic.dependencies = 3
-            elastic.noTension = True
+            values.reverse()
+            elastic.type, elastic.dependencies, elastic.noTension = values[0]
 
         plain = Plain()
 
         def setter():
-            plain.value = values[0]
-            plain.value = 3
-            plain.value = True
+            values.reverse()
+            plain.value, plain.value, plain.value = values[0]
 
         compare(f"set a field, of {size} materials (3)", attribute, "a property that appends (3)",
                 setter, 2000, 20)

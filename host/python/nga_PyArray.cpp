@@ -52,23 +52,26 @@ bool IsNumPyThere() {
 }
 
 /// Masked cells have no value, though something stands in their place.
-void RefuseMasked(pybind11::array const& array) {
+void RefuseMasked(FieldData const& field, pybind11::array const& array) {
     if (Py_TYPE(array.ptr()) == reinterpret_cast<PyTypeObject*>(Api().PyArray_Type_)) return;
     pybind11::module_ const masked = pybind11::module_::import("numpy.ma");
     if (pybind11::isinstance(array, masked.attr("MaskedArray")) &&
         masked.attr("is_masked")(array).cast<bool>())
-        Fail(PyExc_ValueError, "the array has masked cells; expected a number in each cell");
+        Fail(PyExc_ValueError,
+             NameOf(field) + ": the array has masked cells; expected a number in each cell");
 }
 
 /// Types wider than a double turn into infinities what does not fit.
-void RefuseOverflow(pybind11::array const& given, pybind11::array const& doubles) {
+void RefuseOverflow(FieldData const& field, pybind11::array const& given,
+                    pybind11::array const& doubles) {
     if (given.dtype().itemsize() <= static_cast<pybind11::ssize_t>(sizeof(double))) return;
     pybind11::object const isInf = pybind11::module_::import("numpy").attr("isinf");
     auto const count = [&](pybind11::array const& array) {
         return isInf(array).attr("sum")().cast<long long>();
     };
     if (count(given) != count(doubles))
-        Fail(PyExc_ValueError, "a number of the array is out of range; expected double precision");
+        Fail(PyExc_ValueError,
+             NameOf(field) + ": a number of the array is out of range; expected double precision");
 }
 
 }  // namespace
@@ -95,20 +98,22 @@ PyObject* ArrayOf(cow_2DArray<double> const& cells) {
     return result.Release();
 }
 
-bool FromArray(PyObject* value, cow_2DArray<double>& cells) {
+bool FromArray(FieldData const& field, PyObject* value, cow_2DArray<double>& cells) {
     if (!IsNumPyThere()) return false;
     pybind11::detail::npy_api const& api = Api();
     if (!api.PyArray_Check_(value)) return false;
     try {
         auto const array = pybind11::reinterpret_borrow<pybind11::array>(value);
         char const kind = array.dtype().kind();
-        RefuseMasked(array);
+        RefuseMasked(field, array);
         if (kind == 'O') return false;
         if (array.ndim() != 2)
-            Fail(PyExc_TypeError, "the array has " + std::to_string(array.ndim()) +
+            Fail(PyExc_TypeError, NameOf(field) + ": the array has " +
+                                      std::to_string(array.ndim()) +
                                       " dimensions; expected 2, rows and columns");
         if (kind != 'f' && kind != 'i' && kind != 'u')
-            Fail(PyExc_TypeError, "the array holds no numbers; expected rows of numbers");
+            Fail(PyExc_TypeError,
+                 NameOf(field) + ": the array holds no numbers; expected rows of numbers");
         PyObject* const base = pybind11::detail::array_proxy(value)->base;
         if (base && Py_TYPE(base) == CellsType()) {
             cow_2DArray<double> const& shared = reinterpret_cast<Cells*>(base)->cells;
@@ -121,17 +126,18 @@ bool FromArray(PyObject* value, cow_2DArray<double>& cells) {
             }
         }
         if (array.shape(0) > INT_MAX || array.shape(1) > INT_MAX)
-            Fail(PyExc_ValueError, "the array is too large for a table");
+            Fail(PyExc_ValueError, NameOf(field) + ": the array is too large for a table");
         auto const doubles =
             pybind11::array_t<double,
                               pybind11::array::c_style | pybind11::array::forcecast>::ensure(array);
         if (!doubles) {
             // ensure() has cleared what NumPy said, as with warnings that are made failures.
             if (!PyErr_Occurred())
-                Fail(PyExc_ValueError, "the array cannot be taken as numbers in double precision");
+                Fail(PyExc_ValueError,
+                     NameOf(field) + ": the array cannot be taken as numbers in double precision");
             throw Failure();
         }
-        RefuseOverflow(array, doubles);
+        RefuseOverflow(field, array, doubles);
         cells =
             cow_2DArray<double>(static_cast<int>(array.shape(0)), static_cast<int>(array.shape(1)));
         if (cells.Size() > 0)

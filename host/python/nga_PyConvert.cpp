@@ -11,13 +11,13 @@
 
 namespace nga::python {
 
-namespace {
-
 std::string NameOf(FieldData const& field) {
     char const* const constructor = field.owner->Constructor();
     return std::string(constructor ? constructor : field.owner->Name()) + "." +
            field.field->Script();
 }
+
+namespace {
 
 std::string Shown(PyObject* value) {
     PyObject* const text = PyObject_Repr(value);
@@ -89,8 +89,26 @@ FieldValue NumberFrom(FieldData const& field, PyObject* value) {
         }
         WrongValue(field, "unknown literal " + Shown(value), "a number, None" + known);
     }
-    if (isInt) return IntFrom(field, value);
-    return DoubleFrom(field, value);
+    // The largest number is how the classes keep one that is not set; it would be read as None.
+    bool isMark;
+    FieldValue result;
+    if (isInt) {
+        int const number = IntFrom(field, value);
+        isMark = number == INT_MAX;
+        result = number;
+    } else {
+        double const number = DoubleFrom(field, value);
+        isMark = number == std::numeric_limits<double>::max();
+        result = number;
+    }
+    if (isMark) {
+        std::string known;
+        for (auto const& [word, number] : field.words)
+            if (number == std::numeric_limits<double>::max()) known += " or " + FromText(word);
+        WrongValue(field, "the number " + Shown(value) + " stands for one that is not set",
+                   "None" + known + " for that, or a smaller number");
+    }
+    return result;
 }
 
 unsigned LiteralFrom(FieldData const& field, PyObject* value) {
@@ -128,7 +146,7 @@ cow_2DArray<double> RowsFrom(FieldData const& field, PyObject* value) {
     constexpr char const* rowsText = "rows of numbers";
     if (IsObject(value)) WrongType(field, value, rowsText);
     cow_2DArray<double> result;
-    if (FromArray(value, result)) return result;
+    if (FromArray(field, value, result)) return result;
     Ref const rows = Elements(field, value, rowsText);
     Py_ssize_t const count = PyTuple_GET_SIZE(rows.Get());
     std::vector<double> cells;
@@ -155,7 +173,7 @@ cow_2DArray<double> RowsFrom(FieldData const& field, PyObject* value) {
 
 TableValue TableFrom(FieldData const& field, PyObject* value) {
     if (!PyDict_Check(value)) return {RowsFrom(field, value), {}};
-    TableValue table{cow_2DArray<double>(0, 0), {}};
+    TableValue table;
     mdl_Description const* const held = field.field->Type().Held();
     PyObject *key, *member;
     for (Py_ssize_t at = 0; PyDict_Next(value, &at, &key, &member);) {
@@ -323,6 +341,81 @@ void ApplyObjects(mdl_FieldType const& type, std::vector<DescribedObject>& objec
 
 }  // namespace
 
+namespace {
+
+template <class Proxy, class Value>
+bool HoldsList(mdl_FieldType const& type, Value const& value, void const* at) {
+    Proxy proxy;
+    proxy = value;
+    return type.Same(&proxy, at);
+}
+
+bool HoldsTable(mdl_Field const& cells, TableValue const& table, void const* at) {
+    for (auto const& [flag, set] : table.flags)
+        if (*static_cast<bool const*>(flag->At(at)) != set) return false;
+    return !table.cells || HoldsList<cls_xp2DArrayDouble>(cells.Type(), *table.cells, cells.At(at));
+}
+
+bool HoldsObjects(mdl_FieldType const& type, std::vector<DescribedObject> const& objects,
+                  void const* at) {
+    if (type.Kind() == mdl_FieldKind::Object)
+        return type.Held()->Same(objects[0].get(), type.ConstObject(at, 0));
+    // An option counts as one also where it is not set.
+    if (type.Kind() == mdl_FieldKind::Option && objects.empty()) return !type.ConstObject(at, 0);
+    if (static_cast<int>(objects.size()) != type.Count(at)) return false;
+    for (int i = 0; i < type.Count(at); ++i) {
+        DescribedObject const& object = objects[static_cast<std::size_t>(i)];
+        void const* const there = type.ConstObject(at, i);
+        if (!object || !there) {
+            if (object || there) return false;
+            continue;
+        }
+        mdl_Description const* const description = object.get_deleter().description;
+        if (type.DynTypeIdOf(there) != description->TypeId() ||
+            !description->Same(object.get(), there))
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool Holds(mdl_Field const& field, FieldValue const& value, void const* at) {
+    mdl_FieldType const& type = field.Type();
+    switch (type.Kind()) {
+        case mdl_FieldKind::Int:
+            return type.Same(&std::get<int>(value), at);
+        case mdl_FieldKind::Double:
+            return type.Same(&std::get<double>(value), at);
+        case mdl_FieldKind::Bool:
+            return type.Same(&std::get<bool>(value), at);
+        case mdl_FieldKind::String:
+            return type.Same(&std::get<cow_String>(value), at);
+        case mdl_FieldKind::Enum:
+            return type.Number(at) == std::get<unsigned>(value);
+        case mdl_FieldKind::IntList:
+            return HoldsList<cls_xp1DArrayListInt>(type, std::get<cow_List<int>>(value), at);
+        case mdl_FieldKind::DoubleList:
+            return HoldsList<cls_xp1DArrayListDouble>(type, std::get<cow_List<double>>(value), at);
+        case mdl_FieldKind::FloatMap:
+            return HoldsList<cls_xpMapString2Float>(
+                type, std::get<cow_Map<cow_String, float>>(value), at);
+        case mdl_FieldKind::Array: {
+            auto const& cells = std::get<TableValue>(value).cells;
+            return !cells || HoldsList<cls_xp2DArrayDouble>(type, *cells, at);
+        }
+        case mdl_FieldKind::Object:
+            if (auto const* const table = std::get_if<TableValue>(&value))
+                return HoldsTable(CellsOf(*type.Held()), *table, at);
+            [[fallthrough]];
+        case mdl_FieldKind::Option:
+        case mdl_FieldKind::OptionList:
+        case mdl_FieldKind::ObjectList:
+            return HoldsObjects(type, std::get<std::vector<DescribedObject>>(value), at);
+    }
+    return false;
+}
+
 void Apply(mdl_Field const& field, FieldValue&& value, void* at) {
     mdl_FieldType const& type = field.Type();
     switch (type.Kind()) {
@@ -351,12 +444,13 @@ void Apply(mdl_Field const& field, FieldValue&& value, void* at) {
             *static_cast<cls_xpMapString2Float*>(at) = std::get<cow_Map<cow_String, float>>(value);
             return;
         case mdl_FieldKind::Array:
-            *static_cast<cls_xp2DArrayDouble*>(at) = std::get<TableValue>(value).cells;
+            if (auto const& cells = std::get<TableValue>(value).cells)
+                *static_cast<cls_xp2DArrayDouble*>(at) = *cells;
             return;
         case mdl_FieldKind::Object:
             if (auto* const table = std::get_if<TableValue>(&value)) {
                 mdl_Field const& cells = CellsOf(*type.Held());
-                *static_cast<cls_xp2DArrayDouble*>(cells.At(at)) = table->cells;
+                if (table->cells) *static_cast<cls_xp2DArrayDouble*>(cells.At(at)) = *table->cells;
                 for (auto const& [flag, set] : table->flags)
                     *static_cast<bool*>(flag->At(at)) = set;
                 return;

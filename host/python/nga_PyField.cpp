@@ -1,10 +1,13 @@
 #include "nga_PyField.h"
 
+#include <cstring>
+
 #include "cls_xp.h"
 #include "mdl_TableRows.h"
 #include "nga_FieldLiterals.h"
 #include "nga_Fields.h"
 #include "nga_Names.h"
+#include "nga_PyDepth.h"
 #include "nga_PyFieldData.h"
 
 namespace nga::python {
@@ -142,6 +145,9 @@ int Set(PyObject* self, PyObject* instance, PyObject* value) {
                  std::string("the field ") + data.field->Script() + " cannot be deleted");
         FieldValue converted =
             value ? FromPython(data, value) : FieldValue(std::vector<DescribedObject>());
+        // What changes nothing is no step, and leaves what can be done again.
+        if (Holds(*data.field, converted, data.field->At(Resolve(object)))) return 0;
+        RequireDepth(*data.owner, *data.field, converted, LevelOf(object));
         WriteTo(object,
                 [&](void* at) { Apply(*data.field, std::move(converted), data.field->At(at)); });
         return 0;
@@ -331,10 +337,15 @@ void ApplyAll(Values&& values, void* object) {
 void SetValues(Object* object, PyObject* fields, bool validate) {
     mdl_Description const& description = *object->state.description;
     Values values = ValuesFrom(description, fields);
+    void const* const now = Resolve(object);
     std::vector<mdl_Field const*> changed;
-    for (auto const& [field, value] : values) changed.push_back(field);
+    for (auto const& [field, value] : values) {
+        if (Holds(*field, value, field->At(now))) continue;
+        RequireDepth(description, *field, value, LevelOf(object));
+        changed.push_back(field);
+    }
     // On a copy first, so that a broken rule leaves no trace, not even a change record.
-    DescribedObject const trial(description.Copy(Resolve(object)), DescribedDeleter{&description});
+    DescribedObject const trial(description.Copy(now), DescribedDeleter{&description});
     ApplyAll(std::move(values), trial.get());
     if (validate) RequireValid(description, trial.get(), PathOf(object));
     if (changed.empty()) return;
@@ -349,6 +360,7 @@ DescribedObject MakeObject(mdl_Description const& description, PyObject* fields,
     if (description.IsAbstract())
         Fail(PyExc_TypeError, std::string(description.Name()) + " is abstract");
     Values values = ValuesFrom(description, fields);
+    for (auto const& [field, value] : values) RequireDepth(description, *field, value, 1);
     DescribedObject object(description.Create(), DescribedDeleter{&description});
     ApplyAll(std::move(values), object.get());
     if (validate) RequireValid(description, object.get(), path);
@@ -356,7 +368,10 @@ DescribedObject MakeObject(mdl_Description const& description, PyObject* fields,
 }
 
 Ref Put(Object* owner, std::string const& script, DescribedObject object) {
-    mdl_Field const& field = DescribedFieldOf(*owner->state.description, script);
+    mdl_Description const& description = *owner->state.description;
+    mdl_Field const& field = DescribedFieldOf(description, script);
+    RequireDepth(ClassName(description) + "." + script, *object.get_deleter().description,
+                 object.get(), LevelOf(owner) + StepsTo(field));
     WriteTo(owner, [&](void* at) { field.Type().Adopt(field.At(at), object.release()); });
     void const* const at = field.At(Resolve(owner));
     return Held(owner, field, at, field.Type().Count(at) - 1);
@@ -416,6 +431,15 @@ void PutNumbers(Object* owner, PyObject* name, PyObject* entries) {
     FieldData const& data = NumbersOf(owner, name);
     FieldValue const value = FromPython(data, entries);
     auto const& given = std::get<cow_Map<cow_String, float>>(value);
+    auto const& now = At<cls_xpMapString2Float>(data.field->At(Resolve(owner)));
+    bool changes = false;
+    cow_ConstMapIterator<cow_String, float> entry(given);
+    for (entry.First(); !entry.IsDone() && !changes; entry.Next()) {
+        float const* const there = now.ConstFind(entry.CurrentKey());
+        float const number = entry.CurrentValue();
+        changes = !there || std::memcmp(there, &number, sizeof number) != 0;
+    }
+    if (!changes) return;
     WriteTo(owner, [&](void* at) {
         auto& map = *static_cast<cls_xpMapString2Float*>(data.field->At(at));
         cow_ConstMapIterator<cow_String, float> position(given);
@@ -439,16 +463,16 @@ bool RemoveNumber(Object* owner, PyObject* name, PyObject* key) {
     return true;
 }
 
-void SortTable(Object* object, std::string const& script, int columns) {
+void SortTable(Object* object, std::string const& script, long columns, std::string const& shown) {
     Ref const name = ToText(script);
     FieldData const& data = FieldOf(*object->state.description, name.Get()).data;
     if (!data.cells) Fail(PyExc_TypeError, "the field " + script + " is no table");
     auto const& cells = At<cls_xp2DArrayDouble>(CellsAt(data, data.field->At(Resolve(object))));
     if (columns < 0 || columns > cells.Columns())
-        Fail(PyExc_ValueError, PathOf(object) + "." + script + ": cannot sort by " +
-                                   std::to_string(columns) + " columns; expected 0 to " +
-                                   std::to_string(cells.Columns()));
-    FieldValue sorted = TableValue{mdl_SortedRows(cells, columns), {}};
+        Fail(PyExc_ValueError, PathOf(object) + "." + script + ": cannot sort by " + shown +
+                                   " columns; expected 0 to " + std::to_string(cells.Columns()));
+    FieldValue sorted = TableValue{mdl_SortedRows(cells, static_cast<int>(columns)), {}};
+    if (Holds(*data.field, sorted, data.field->At(Resolve(object)))) return;
     WriteTo(object, [&](void* at) { Apply(*data.field, std::move(sorted), data.field->At(at)); });
 }
 

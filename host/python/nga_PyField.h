@@ -45,8 +45,8 @@ bool RemoveNumber(Object* owner, PyObject* name, PyObject* key);
 void RequireHeld(mdl_Description const& owner, mdl_Field const& field,
                  mdl_Description const& given);
 
-/// Orders the rows of a table of an object.
-void SortTable(Object* object, std::string const& script, int columns);
+/// Orders the rows of a table of an object by as many columns; messages call the number as shown.
+void SortTable(Object* object, std::string const& script, long columns, std::string const& shown);
 
 /// The field of a class by its script name; raises AttributeError with near names.
 Field& FieldOf(mdl_Description const& description, PyObject* name);

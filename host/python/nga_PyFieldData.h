@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -25,9 +26,9 @@ struct Field {
     PyObject_HEAD FieldData data;
 };
 
-/// A table as a script gives it: rows, and flags where it gives them.
+/// A table as a script gives it: rows and flags, each where it gives them.
 struct TableValue {
-    cow_2DArray<double> cells;
+    std::optional<cow_2DArray<double>> cells;
     std::vector<std::pair<mdl_Field const*, bool>> flags;
 };
 
@@ -39,12 +40,16 @@ using FieldValue =
 /// Raises TypeError or ValueError, which name the field and what it takes.
 FieldValue FromPython(FieldData const& field, PyObject* value);
 void Apply(mdl_Field const& field, FieldValue&& value, void* at);
+/// Whether applying the value would change nothing.
+bool Holds(mdl_Field const& field, FieldValue const& value, void const* at);
+/// A field as messages call it.
+std::string NameOf(FieldData const& field);
 double RealFrom(PyObject* value, bool& fits);
 
 /// A read-only NumPy array on the cells, which it keeps alive by sharing them.
 PyObject* ArrayOf(cow_2DArray<double> const& cells);
 /// The cells of a NumPy array; false for what is none, and for one of objects.
-bool FromArray(PyObject* value, cow_2DArray<double>& cells);
+bool FromArray(FieldData const& field, PyObject* value, cow_2DArray<double>& cells);
 
 /// The address of the array of a field that is or holds one.
 inline void const* CellsAt(FieldData const& field, void const* at) {

@@ -1,7 +1,6 @@
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
 
-#include "cls_ClassMetadata.h"
 #include "nex_Exception.h"
 #include "nga_Check.h"
 #include "nga_Error.h"
@@ -12,9 +11,9 @@
 #include "nga_Names.h"
 #include "nga_Path.h"
 #include "nga_Picture.h"
+#include "nga_PyDepth.h"
+#include "nga_PyFacts.h"
 #include "nga_PyField.h"
-#include "nga_Rules.h"
-#include "nga_Schema.h"
 #include "nga_Script.h"
 #include "nga_Start.h"
 #include "nga_StoreError.h"
@@ -46,99 +45,15 @@ Object* Handle(py::handle object) {
              "an object of the library is expected, not a " + TypeNameOf(object.ptr()));
     return reinterpret_cast<Object*>(object.ptr());
 }
+/// A truth value, of Python or of NumPy, and nothing that only has one.
+bool Flag(py::handle value, char const* name) {
+    if (PyBool_Check(value.ptr())) return value.ptr() == Py_True;
+    if (TypeNameOf(value.ptr()) == "numpy.bool_") return PyObject_IsTrue(value.ptr()) == 1;
+    Fail(PyExc_TypeError, std::string(name) + ": " + From(py::repr(value)) + " (" +
+                              TypeNameOf(value.ptr()) +
+                              ") cannot stand here; expected True or False");
+}
 Collection const& CollectionAt(std::size_t index) { return *Collection::All().at(index); }
-mdl_Description const& DescriptionAt(unsigned typeId) {
-    mdl_Description const* const description = mdl_Description::Find(typeId);
-    if (!description) Fail(PyExc_ValueError, "there is no class of this number");
-    return *description;
-}
-
-// ---- metadata ----------------------------------------------------------------------------------
-
-char const* KindName(mdl_FieldKind kind) {
-    constexpr char const* names[] = {"int",    "float",  "str",     "bool", "literal",
-                                     "object", "option", "options", "list", "ints",
-                                     "floats", "map",    "array"};
-    return names[static_cast<int>(kind)];
-}
-
-py::dict FieldFacts(mdl_Description const& owner, mdl_Field const& field, void const* object) {
-    mdl_FieldType const& type = field.Type();
-    py::dict facts;
-    facts["name"] = field.Name();
-    facts["script"] = field.Script();
-    facts["kind"] = KindName(type.Kind());
-    facts["held"] = type.Held() ? type.Held()->TypeId() : 0u;
-    facts["is_table"] = type.Kind() == mdl_FieldKind::Array ||
-                        (type.Kind() == mdl_FieldKind::Object && IsTable(*type.Held()));
-    py::list literals, words;
-    for (omu_EnumRow const* row = type.Rows(); row && row->literal; ++row)
-        literals.append(row->literal);
-    for (FieldLiteral const* word : LiteralsOf(owner, field))
-        words.append(py::make_tuple(word->literal, word->value));
-    facts["literals"] = literals;
-    facts["words"] = words;
-    facts["default"] = object ? Text(ScriptValue(owner, field, field.At(object))) : py::none();
-    return facts;
-}
-
-py::dict ClassFacts(mdl_Description const& description) {
-    DescribedObject const object(description.IsAbstract() ? nullptr : description.Create(),
-                                 DescribedDeleter{&description});
-    py::dict facts;
-    facts["type_id"] = description.TypeId();
-    facts["name"] = description.Name();
-    facts["constructor"] = description.Constructor();
-    facts["base"] = description.Base() ? description.Base()->TypeId() : 0u;
-    facts["abstract"] = description.IsAbstract();
-    facts["is_table"] = IsTable(description);
-    facts["module"] = description.Module() ? description.Module()->prefix : "";
-    facts["version"] = description.Version();
-    py::list fields, keyed;
-    for (mdl_Field const& field : description.Fields())
-        fields.append(FieldFacts(description, field, object.get()));
-    py::dict constructors, appended;
-    for (mdl_Field const* field : description.AllFields()) {
-        std::string const constructor = ConstructorOf(description, *field);
-        if (!constructor.empty()) constructors[field->Script()] = constructor;
-        for (mdl_Description const* made : ClassesToAppend(description, *field))
-            appended[py::int_(made->TypeId())] = field->Script();
-        if (FieldStep(description, *field)[1] == 'o' &&
-            FieldStep(description, *field).rfind(".options[", 0) == 0)
-            keyed.append(field->Script());
-    }
-    facts["fields"] = fields;
-    facts["constructors"] = constructors;
-    facts["appended"] = appended;
-    facts["keyed"] = keyed;
-    return facts;
-}
-
-py::list Classes() {
-    py::list classes;
-    for (cls_ClassMetadata const* metadata : SchemaClasses())
-        if (mdl_Description const* description = mdl_Description::Find(metadata->TypeId()))
-            classes.append(ClassFacts(*description));
-    return classes;
-}
-
-py::list Collections() {
-    py::list collections;
-    for (Collection const* collection : Collection::All()) {
-        py::list held;
-        for (NamedClass const& named : ClassesBelow(collection->Held()))
-            held.append(named.description->TypeId());
-        collections.append(py::make_tuple(collection->Name(), collection->Held().TypeId(), held));
-    }
-    return collections;
-}
-
-py::list Rules(unsigned typeId) {
-    py::list rules;
-    for (ListedRule const& rule : RulesOf(DescriptionAt(typeId)))
-        rules.append(py::make_tuple(rule.module, rule.code, Text(rule.message)));
-    return rules;
-}
 
 // ---- documents ---------------------------------------------------------------------------------
 
@@ -225,6 +140,8 @@ py::object Entry(SessionPointer const& session, py::handle document, std::size_t
 
 void Insert(Session& session, Collection const& collection, cow_String const& key,
             DescribedObject object) {
+    RequireDepth(std::string(".") + collection.Name(), *object.get_deleter().description,
+                 object.get(), levelOfNamed);
     Writing writing(session);
     writing.Touch(collection, key);
     collection.Insert(session.document.Model(), key, object.release());
@@ -232,7 +149,7 @@ void Insert(Session& session, Collection const& collection, cow_String const& ke
 }
 
 py::object MakeEntry(SessionPointer const& session, py::handle document, std::size_t index,
-                     unsigned typeId, py::handle name, py::dict fields, bool validate) {
+                     unsigned typeId, py::handle name, py::dict fields, py::handle validate) {
     session->Enter();
     Collection const& collection = CollectionAt(index);
     std::string const key = From(name);
@@ -244,7 +161,7 @@ py::object MakeEntry(SessionPointer const& session, py::handle document, std::si
                                    ": there is an object of this name already; assign to it "
                                    "to replace it");
     Insert(*session, collection, cow_String(std::string_view(key)),
-           MakeObject(DescriptionAt(typeId), fields.ptr(), validate, path));
+           MakeObject(DescriptionAt(typeId), fields.ptr(), Flag(validate, "validate"), path));
     return Entry(session, document, index, name);
 }
 
@@ -261,8 +178,15 @@ void PutEntry(SessionPointer const& session, std::size_t index, py::handle name,
     if (!level)
         Fail(PyExc_TypeError,
              std::string(".") + collection.Name() + " holds no " + TypeNameOf(object.ptr()));
-    Insert(*session, collection, cow_String(std::string_view(key)),
-           DescribedObject(description->Copy(Resolve(source)), DescribedDeleter{description}));
+    cow_String const place(std::string_view{key});
+    void const* const given = Resolve(source);
+    void const* const there = collection.Find(session->document.Model(), place);
+    // What changes nothing is no step.
+    if (there && collection.DynTypeIdOf(there) == description->TypeId() &&
+        description->Same(there, given))
+        return;
+    Insert(*session, collection, place,
+           DescribedObject(description->Copy(given), DescribedDeleter{description}));
 }
 
 void RemoveEntry(Session& session, std::size_t index, py::handle name) {
@@ -348,10 +272,10 @@ public:
     }
 };
 
-py::list Records(Session& session, std::size_t from) {
+py::list Records(Session& session, std::size_t from, std::size_t count) {
     session.Enter();
     py::list records;
-    for (std::size_t i = from; i < session.records.size(); ++i) {
+    for (std::size_t i = from; i < session.records.size() && i - from < count; ++i) {
         // A copy: making objects of Python's can run Python code, which may have them forgotten.
         ChangeRecord const record = session.records[i];
         if (record.whole) {
@@ -410,15 +334,15 @@ py::list DiffOf(KeptSnapshot const& before, KeptSnapshot const& after, std::stri
 
 // ---- objects -----------------------------------------------------------------------------------
 
-py::object Create(unsigned typeId, py::dict fields, bool validate) {
+py::object Create(unsigned typeId, py::dict fields, py::handle validate) {
     mdl_Description const& description = DescriptionAt(typeId);
     return Give(OwnedObject(
-        MakeObject(description, fields.ptr(), validate,
+        MakeObject(description, fields.ptr(), Flag(validate, "validate"),
                    description.Constructor() ? description.Constructor() : description.Name())));
 }
 
 py::object MakeIn(py::handle owner, std::string const& script, unsigned typeId, py::dict fields,
-                  bool validate) {
+                  py::handle validate) {
     Object* const object = Handle(owner);
     Resolve(object);
     mdl_Field const& field = DescribedFieldOf(*object->state.description, script);
@@ -428,7 +352,8 @@ py::object MakeIn(py::handle owner, std::string const& script, unsigned typeId, 
     std::string path = PathOf(object) + FieldStep(*object->state.description, field);
     if (field.Type().Kind() != mdl_FieldKind::Option) path += IndexStep(CountOf(object, script));
     return Give(
-        Put(object, script, MakeObject(DescriptionAt(typeId), fields.ptr(), validate, path)));
+        Put(object, script,
+            MakeObject(DescriptionAt(typeId), fields.ptr(), Flag(validate, "validate"), path)));
 }
 
 py::object ToJson(py::handle handle) {
@@ -620,8 +545,9 @@ void DefineSession(py::module_& module) {
              })
         .def("snapshot", [](Session& s) { return std::make_unique<KeptSnapshot>(s); })
         .def("findings",
-             [](Session& s, bool deep) {
-                 return Findings(Long(s, [&] { return Check(s.document, DepthOf(deep)); }));
+             [](Session& s, py::handle deep) {
+                 CheckDepth const depth = DepthOf(Flag(deep, "deep"));
+                 return Findings(Long(s, [&] { return Check(s.document, depth); }));
              })
         .def("export_json",
              [](Session& s) { return Text(Long(s, [&] { return ExportJson(s.document); })); })
@@ -648,8 +574,14 @@ void DefineSession(py::module_& module) {
         .def("contains",
              [](Session& s, std::size_t index, py::handle name) {
                  s.Enter();
-                 return PyUnicode_Check(name.ptr()) &&
-                        CollectionAt(index).Find(s.document.Model(), Key(name)) != nullptr;
+                 if (!PyUnicode_Check(name.ptr())) return false;
+                 try {
+                     return CollectionAt(index).Find(s.document.Model(), Key(name)) != nullptr;
+                 } catch (Failure const&) {
+                     // A text that cannot be kept is the name of nothing.
+                     PyErr_Clear();
+                     return false;
+                 }
              })
         .def("keys", Keys)
         .def("entry", [](SessionPointer const& s, py::handle document, std::size_t index,
@@ -662,8 +594,8 @@ void DefineSession(py::module_& module) {
 
 void DefineObjects(py::module_& module) {
     module.def("create", Create);
-    module.def("set_values", [](py::handle object, py::dict fields, bool validate) {
-        SetValues(Handle(object), fields.ptr(), validate);
+    module.def("set_values", [](py::handle object, py::dict fields, py::handle validate) {
+        SetValues(Handle(object), fields.ptr(), Flag(validate, "validate"));
     });
     module.def("make_in", MakeIn);
     module.def("count", [](py::handle owner, std::string const& script) {
@@ -693,17 +625,20 @@ void DefineObjects(py::module_& module) {
     module.def("remove_number", [](py::handle owner, py::handle name, py::handle key) {
         return RemoveNumber(Handle(owner), name.ptr(), key.ptr());
     });
-    module.def("sort", [](py::handle object, std::string const& script, int columns) {
-        SortTable(Handle(object), script, columns);
+    module.def("sort", [](py::handle object, py::handle script, py::int_ columns) {
+        int overflow = 0;
+        long const wide = PyLong_AsLongAndOverflow(columns.ptr(), &overflow);
+        SortTable(Handle(object), From(script), overflow ? -1 : wide, From(py::str(columns)));
     });
     module.def("validate", [](py::handle handle) {
         Object* const object = Handle(handle);
         RequireValid(*object->state.description, Resolve(object), PathOf(object));
     });
-    module.def("findings", [](py::handle handle, bool deep) {
+    module.def("findings", [](py::handle handle, py::handle deep) {
         Object* const object = Handle(handle);
+        CheckDepth const depth = DepthOf(Flag(deep, "deep"));
         return Findings(Long(object, [&](void const* at) {
-            return Check(*object->state.description, at, PathOf(object), DepthOf(deep));
+            return Check(*object->state.description, at, PathOf(object), depth);
         }));
     });
     module.def("is_here", [](py::handle handle) { return IsHere(Handle(handle)); });
@@ -737,12 +672,25 @@ void DefineObjects(py::module_& module) {
         Object* const object = Handle(handle);
         return Text(ScriptObject(*object->state.description, Resolve(object)));
     });
-    module.def("refuse", [](py::handle message) { throw Error(From(message)); });
+    module.def(
+        "refuse",
+        [](py::handle message, std::string const& place, std::string const& expected) {
+            throw Error(From(message), place, 0, expected);
+        },
+        py::arg("message"), py::arg("place") = "", py::arg("expected") = "");
     module.def("refuse_file", [](py::handle path, py::handle cause) {
         throw StoreError(From(path), From(cause));
     });
-    module.def("near", [](std::string const& given, std::vector<std::string> const& known) {
-        return DidYouMean(given, known);
+    module.def("near", [](py::handle given, py::list known) {
+        std::vector<std::string> names;
+        for (py::handle name : known) names.push_back(From(name));
+        try {
+            return Text(DidYouMean(From(given), names));
+        } catch (Failure const&) {
+            // Nothing is near to a text with half of a character in it.
+            PyErr_Clear();
+            return Text("");
+        }
     });
 }
 
@@ -770,9 +718,7 @@ PYBIND11_MODULE(_nga, module) {
     } catch (Failure const&) {
         throw py::error_already_set();
     }
-    module.def("classes", Classes);
-    module.def("collections", Collections);
-    module.def("rules", Rules);
+    DefineFacts(module);
     module.def("register_class", [](unsigned typeId, py::handle type) {
         RegisterClass(typeId, reinterpret_cast<PyTypeObject*>(type.ptr()));
     });

@@ -3,6 +3,7 @@ import builtins
 import collections.abc
 import json
 import math
+import operator
 import os
 import struct
 import weakref
@@ -253,8 +254,8 @@ class DocumentBase:
     _session: Any
     _collections: dict[str, int] = {}
 
-    def __init__(self, session):
-        if not isinstance(session, _nga.Session):
+    def __init__(self, session=None, *others, **named):
+        if not isinstance(session, _nga.Session) or others or named:
             raise TypeError("nga.new() and nga.open() make documents, not the class")
         if hasattr(self, "_session"):
             raise TypeError("this document is made already")
@@ -280,12 +281,19 @@ class DocumentBase:
         return tuple(getattr(self, name) for name in self._collections)
 
     def save(self) -> None:
-        """Writes the file, whole or not at all."""
+        """Writes the file, whole or not at all. A document that was opened from a text has none
+        until save_as() gives it one."""
         self._session.save()
 
     def save_as(self, path: str | os.PathLike[str]) -> None:
-        """Writes another file, which becomes that of the document and names it."""
-        self._session.save_as(_path(path))
+        """Writes another file, a database, which becomes that of the document and names it."""
+        file = _path(path)
+        # open() would take such a file for a text, and the tool too.
+        if file == "-" or file.endswith(".json"):
+            stem = os.path.splitext(os.path.basename(file))[0] if file != "-" else self.name
+            _nga.refuse("a database cannot stand there: under this name a JSON text is read", file,
+                        f"the name of a database, such as {stem}.nga; to_json() gives the text")
+        self._session.save_as(file)
 
     # ---- time ----
     def edit(self, why: str = "") -> _Edit:
@@ -401,6 +409,17 @@ class DocumentBase:
         return self.__copy__()
 
 
+def _place(index, length):
+    if not hasattr(index, "__index__"):
+        raise TypeError(f"{index!r} ({type(index).__name__}) cannot be a place in a list; expected "
+                        "an integer or a slice")
+    index = operator.index(index)
+    place = index + length if index < 0 else index
+    if not 0 <= place < length:
+        raise IndexError(f"there is no element {index}: the list has {length}")
+    return place
+
+
 class Journal(collections.abc.Sequence[tuple[Any, ...]]):
     """The change records of a document as they were sent, oldest first, as tuples. Its script does
     once more what was done and not undone."""
@@ -410,7 +429,7 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
 
     @property
     def records(self) -> list[tuple[Any, ...]]:
-        return self._document._session.records(0)
+        return self._document._session.records(0, len(self))
 
     @property
     def script(self) -> str:
@@ -445,7 +464,27 @@ class Journal(collections.abc.Sequence[tuple[Any, ...]]):
         return self._document._session.record_count()
 
     def __getitem__(self, index):
-        return self.records[index]
+        if isinstance(index, slice):
+            return self.records[index]
+        length = len(self)
+        place = _place(index, length)
+        return self._document._session.records(place, 1)[0]
+
+    # Over one list: by places, each look would cost a call and a check of its own.
+    def __iter__(self):
+        return iter(self.records)
+
+    def __reversed__(self):
+        return reversed(self.records)
+
+    def __contains__(self, record):
+        return record in self.records
+
+    def index(self, record, *bounds):
+        return self.records.index(record, *bounds)
+
+    def count(self, record):
+        return self.records.count(record)
 
     def __str__(self):
         return self.script + "".join(f"# {record!r}\n" for record in self.records)
@@ -506,6 +545,10 @@ class Repository(_Objects, collections.abc.MutableMapping[str, _Held]):
 
     def __contains__(self, name):
         return self._document._session.contains(self._index, name)
+
+    def get(self, name, default=None):
+        """The object of that name, or the default, also for what no object can have as its name."""
+        return self[name] if name in self else default
 
     def __len__(self):
         return self._document._session.size(self._index)
@@ -620,7 +663,13 @@ ReferenceError when the path leads nowhere any more."""
             if len(tables) != 1:
                 raise TypeError(f"{type(self).__name__} has {len(tables)} tables; name the field")
             field = tables[0]
-        _nga.sort(self, field, n)
+        if not isinstance(field, str):
+            raise TypeError(f"sort: {field!r} ({type(field).__name__}) cannot be the name of a "
+                            "field; expected a text")
+        if isinstance(n, bool) or not hasattr(n, "__index__"):
+            raise TypeError(f"sort: {n!r} ({type(n).__name__}) cannot stand here; expected an "
+                            "integer, the number of columns")
+        _nga.sort(self, field, operator.index(n))
 
     def to_dict(self) -> dict[str, Any]:
         """The fields that are not at their defaults, as the JSON text has them."""
@@ -738,11 +787,7 @@ class ObjectList(collections.abc.MutableSequence[Any]):
         self._field = field
 
     def _place(self, index):
-        length = len(self)
-        place = index + length if index < 0 else index
-        if not 0 <= place < length:
-            raise IndexError(f"there is no element {index}: the list has {length}")
-        return place
+        return _place(index, len(self))
 
     def __len__(self):
         return _nga.count(self._owner, self._field)
@@ -841,6 +886,13 @@ class FloatMap(collections.abc.MutableMapping[str, float]):
         if name not in values:
             raise KeyError(f"there is no entry {name!r}{_nga.near(str(name), list(values))}")
         return values[name]
+
+    def __contains__(self, name):
+        return isinstance(name, str) and name in self._values()
+
+    def get(self, name, default=None):
+        """The number of that name, or the default, also for what can be no name."""
+        return self[name] if name in self else default
 
     def __setitem__(self, name, value):
         _nga.put_numbers(self._owner, self._field, {name: value})
