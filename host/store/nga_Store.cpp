@@ -197,11 +197,17 @@ void EachMap(StoredFile const& file, rfm_Table& table, cow_String const& extensi
     for (int i = 0; i + 1 < layout.ColumnCount(); ++i) {
         std::string const column = layout.Columns()[static_cast<std::size_t>(i)].name.Text();
         std::size_t const ending = column.rfind("#ClassID");
+        rfm_Value const typeId = row->Value(i);
         rfm_Value const map = row->Value(i + 1);
-        if (ending == std::string::npos || map.tag != rfm_Value::Int ||
-            row->Value(i).integer != static_cast<long long>(cls_MapTypeId))
-            continue;
+        if (ending == std::string::npos || map.tag == rfm_Value::Null) continue;
         std::string field = column.substr(0, ending);
+        // Without a class it is that of the field.
+        bool const isMap = typeId.tag == rfm_Value::Null ||
+                           (typeId.tag == rfm_Value::Int &&
+                            typeId.integer == static_cast<long long>(cls_MapTypeId));
+        if (!isMap || map.tag != rfm_Value::Int || map.integer < 0 || map.integer > INT_MAX)
+            file.Fail(std::string("row 0 of table ") + layout.Name().Text() + ", field \"" + field +
+                      "\", refers to no map of names");
         if (field == "extension") field = extension.Text();
         each(field, static_cast<int>(map.integer));
     }

@@ -353,6 +353,25 @@ TEST_F(ExampleUpgrades, WhatKeepsTheWholeFileFromBeingReadIsNamed) {
     EXPECT_NE(RunNga({"tree", path}).code, 0);
 }
 
+TEST_F(ExampleUpgrades, WhateverKeepsADocumentFromBeingOpenedIsFound) {
+    for (char const* damage :
+         {"UPDATE kbpC_BPCWrapper SET \"extension#ClassID\"=0x230001",
+          "UPDATE kbpC_BPCWrapper SET \"extension#OID\"='x'",
+          "UPDATE kbpC_BPCWrapper SET \"extension#OID\"=-1",
+          "UPDATE kbpC_BPCWrapper SET \"extension#OID\"=99",
+          "UPDATE kbpC_BPCWrapper SET \"##Uid\"=x'00'", "UPDATE cls_Map SET \"##Uid\"=x'00'",
+          "UPDATE cls_Map SET \"Target#Kind\"=3"}) {
+        std::string const path = folder.File("old_203.nga");
+        std::filesystem::remove(path);
+        std::filesystem::remove(path + ".schema-203.bak");
+        Made(203);
+        Sql(path, damage);
+        nga::UpgradeOutcome const outcome = nga::Upgrade(path);
+        EXPECT_THROW(nga::Document::Open(path), nga::StoreError) << damage;
+        EXPECT_FALSE(outcome.unreadable.empty()) << damage;
+    }
+}
+
 TEST_F(ExampleUpgrades, ProgressGoesFromNothingToAll) {
     std::string const path = Made(203);
     nga::UpgradeFileOptions options;
