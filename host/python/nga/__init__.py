@@ -13,9 +13,10 @@ Classes (nga.Elastic) and literals (nga.ISOTROPIC) are made from the library's o
 from typing import TYPE_CHECKING
 
 from . import _made, _nga
+from ._journal import Journal
 from ._literal import Literal
 from ._made import *
-from ._model import (MISSING, Difference, Finding, FloatMap, Journal, Object, ObjectList, Options,
+from ._model import (MISSING, Difference, Finding, FloatMap, Object, ObjectList, Options,
                      Repository, documents, empty_table, from_dict, new, open, real)
 from ._nga import Error, Snapshot, StoreError, ValidationError
 

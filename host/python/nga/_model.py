@@ -11,6 +11,7 @@ from collections.abc import Mapping
 from typing import TYPE_CHECKING, Any, NamedTuple, TypeVar
 
 from . import _nga
+from ._journal import Journal, place_of
 
 if TYPE_CHECKING:
     from ._made import Document
@@ -340,7 +341,7 @@ class DocumentBase:
         return [Difference(*one) for one in found]
 
     @property
-    def journal(self) -> "Journal":
+    def journal(self) -> Journal:
         """What was done: the change records, and the script that does it again."""
         return Journal(self)
 
@@ -407,92 +408,6 @@ class DocumentBase:
 
     def __deepcopy__(self, memo):
         return self.__copy__()
-
-
-def _place(index, length):
-    if not hasattr(index, "__index__"):
-        raise TypeError(f"{index!r} ({type(index).__name__}) cannot be a place in a list; expected "
-                        "an integer or a slice")
-    index = operator.index(index)
-    place = index + length if index < 0 else index
-    if not 0 <= place < length:
-        raise IndexError(f"there is no element {index}: the list has {length}")
-    return place
-
-
-class Journal(collections.abc.Sequence[tuple[Any, ...]]):
-    """The change records of a document as they were sent, oldest first, as tuples. Its script does
-    once more what was done and not undone."""
-
-    def __init__(self, document):
-        self._document = document
-
-    @property
-    def records(self) -> list[tuple[Any, ...]]:
-        return self._document._session.records(0, len(self))
-
-    @property
-    def script(self) -> str:
-        """A Python program that opens the document as it was before the first change, and makes the
-        same changes. Where there is no file of that, because the document was made from a text, or
-        was saved meanwhile over what it was opened from, the program holds the content itself."""
-        session = self._document._session
-        return session.script(session.opening or self._start())
-
-    def _start(self):
-        import pprint
-        session = self._document._session
-        text = session.start_text()
-        content = json.loads(text)
-        # Breaking lines well is slow, and nobody reads that much.
-        shown = pprint.pformat(content, width=100, sort_dicts=False) if len(text) < 20000 else \
-            repr(content)
-        return f"nga.from_dict({session.name!r}, {shown})"
-
-    @property
-    def body(self) -> str:
-        """The script without the lines that open the document, over the variable doc."""
-        return self._document._session.script_body()
-
-    def replay(self, document: "DocumentBase") -> None:
-        """Makes the same changes to another document, as one step."""
-        import nga
-        with document.edit("replay"):
-            exec(compile(self.body, "<journal>", "exec"), {"nga": nga, "doc": document})
-
-    def __len__(self):
-        return self._document._session.record_count()
-
-    def __getitem__(self, index):
-        if isinstance(index, slice):
-            return self.records[index]
-        length = len(self)
-        place = _place(index, length)
-        return self._document._session.records(place, 1)[0]
-
-    # Over one list: by places, each look would cost a call and a check of its own.
-    def __iter__(self):
-        return iter(self.records)
-
-    def __reversed__(self):
-        return reversed(self.records)
-
-    def __contains__(self, record):
-        return record in self.records
-
-    def index(self, record, *bounds):
-        return self.records.index(record, *bounds)
-
-    def count(self, record):
-        return self.records.count(record)
-
-    def __str__(self):
-        return self.script + "".join(f"# {record!r}\n" for record in self.records)
-
-    def __repr__(self):
-        if not self._document._session.is_here:
-            return "<journal of another thread>"
-        return f"<journal of {self._document.path}: {len(self)} change records>"
 
 
 class _Objects:
@@ -787,7 +702,7 @@ class ObjectList(collections.abc.MutableSequence[Any]):
         self._field = field
 
     def _place(self, index):
-        return _place(index, len(self))
+        return place_of(index, len(self))
 
     def __len__(self):
         return _nga.count(self._owner, self._field)
