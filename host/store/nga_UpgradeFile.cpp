@@ -35,8 +35,7 @@ constexpr double lookedAt = 0.75;
 
 class OpenFile {
 public:
-    OpenFile(std::string const& path, int flags, mode_t mode = 0)
-        : m_file(open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+    OpenFile(std::string const& path, int flags) : m_file(open(path.c_str(), flags | O_CLOEXEC)) {}
     ~OpenFile() {
         if (m_file >= 0) close(m_file);
     }

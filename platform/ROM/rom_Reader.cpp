@@ -492,9 +492,15 @@ rom_Reader::Memento* rom_Reader::Open(TableReader* table, int oid) {
 }
 
 rom_Reader::Memento* rom_Reader::OpenPart(TableReader& table, int oid) {
-    // First: what is open when this fails would stay open.
-    table.NoteReferred(oid);
-    return Open(&table, oid);
+    // Only of a row that is there: a damaged number may be any.
+    Memento* const memento = Open(&table, oid);
+    try {
+        table.NoteReferred(oid);
+    } catch (...) {
+        memento->Release();
+        throw;
+    }
+    return memento;
 }
 
 unsigned rom_Reader::CheckedClass(rfm_Value const& stored, unsigned expected, Origin const& where) {

@@ -1,7 +1,9 @@
 #include "rom_Transporter.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <climits>
 #include <functional>
 
 #include "DDB_NonGeometricAttributes.h"
@@ -281,6 +283,19 @@ TEST_F(Transporter, FindsWhatNothingRefersTo) {
     EXPECT_TRUE(transporter.ReadUnreferenced().empty());
 }
 
+// A bit is kept for each row that something refers to, and a damaged number may be any.
+TEST_F(Transporter, ARowThatIsNotThereTakesNoMemory) {
+    kmaC_Material const steel = Steel();
+    rom_Transporter(m_database, *m_registrar).Write(&steel, kmaC_Material::TypeId());
+    Poke(kmaC_Elastic::TypeId(), 0, "table#OID", rfm_Value::OfInt(INT_MAX));
+    rusage before, after;
+    getrusage(RUSAGE_SELF, &before);
+    rom_Transporter transporter(m_database, *m_registrar);
+    EXPECT_NE(MessageOf([&] { transporter.Read(kmaC_Material::TypeId(), 0); }), "");
+    getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024);
+}
+
 TEST_F(Transporter, ToldWhatNothingRefersToAndCannotBeRead) {
     kmaC_Material const steel = Steel();
     rom_Transporter(m_database, *m_registrar).Write(&steel, kmaC_Material::TypeId());
@@ -292,8 +307,9 @@ TEST_F(Transporter, ToldWhatNothingRefersToAndCannotBeRead) {
         if (each.typeId != kmaC_Material::TypeId()) continue;
         told = true;
         EXPECT_FALSE(each.object);
-        EXPECT_EQ(each.failure.rfind("row 0 of table kmaC_Material: row 0 of table kmaC_Elastic: ", 0),
-                  0u)
+        EXPECT_EQ(
+            each.failure.rfind("row 0 of table kmaC_Material: row 0 of table kmaC_Elastic: ", 0),
+            0u)
             << each.failure;
     }
     EXPECT_TRUE(told);
